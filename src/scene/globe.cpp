@@ -1,0 +1,68 @@
+#include "scene/globe.h"
+
+#include "app/simulation.h"
+#include "scene/planet_disc.h"
+#include "scene/projection.h"
+#include "scene/surroundings.h"
+
+#include <cmath>
+
+namespace selvane {
+
+namespace {
+
+// The north marker behind this globe keeps the Earth's direction on every planet.
+constexpr double kFarNorthAxisDeg = 66.6;
+
+SunPlace PlaceOfSun(Scenario mode)
+{
+    return mode == Scenario::ES2 || mode == Scenario::SunSynch ? SunPlace::Origin : SunPlace::Edge;
+}
+
+void Ring(Simulation& sim, double inclination, double roll)
+{
+    SimState& state = sim.state;
+    state.Incl = inclination;
+    state.RAAN = 0;
+    state.PosRoll = roll;
+    state.PosLon = Radians(state, state.Incl);
+    state.PosRadius = state.PlanetPx;
+    for (state.SatDeg = 0; state.SatDeg <= 360; ++state.SatDeg) {
+        state.PosLat = Radians(state, state.SatDeg);
+        XYProjection(sim);
+        if (state.ProjZ > 0)
+            sim.picSelvane.PSet(state.ProjX + state.PlanetX, state.ProjY + state.PlanetY);
+    }
+}
+
+// The equator and two meridians a quarter turn apart.
+void Graticule(Simulation& sim)
+{
+    const double tilt = sim.state.PlanetTilt;
+    const double quarter = sim.state.Pi / 2;
+    sim.picSelvane.ForeColor = RGB(159, 159, 159);
+    Ring(sim, -tilt, 0);
+    Ring(sim, 90 - tilt, 0);
+    Ring(sim, 90 - tilt * std::cos(quarter), quarter);
+    sim.picSelvane.ForeColor = RGB(191, 191, 191);
+}
+
+} // namespace
+
+void DrawPlanet(Simulation& sim)
+{
+    SimState& state = sim.state;
+    state.CurPic = &sim.picSelvane;
+    state.SunX = 0;
+    state.SunY = 0;
+    state.ViewDeg = Number(sim, txtView);
+    state.ViewRad = Radians(state, state.ViewDeg);
+    ReferenceLines(sim);
+    SunAndSunlight(sim, PlaceOfSun(state.OrbitMode));
+    MarkersBehind(sim, kFarNorthAxisDeg, std::sin(-state.ViewRad));
+    BarePlanet(sim);
+    Graticule(sim);
+    MarkersInFront(sim);
+}
+
+} // namespace selvane

@@ -1,0 +1,171 @@
+#include "scene/orbit.h"
+
+#include "app/simulation.h"
+#include "scene/orbit_elements.h"
+#include "scene/projection.h"
+
+#include <array>
+#include <cmath>
+
+namespace selvane {
+
+namespace {
+
+constexpr int kSamples = 361; // a sample a degree; the last is the first once more
+
+struct Sample
+{
+    double radius; // display units
+    Projected point;
+};
+
+using Samples = std::array<Sample, kSamples>;
+
+struct PairFields { FieldId first, second; };
+
+PairFields FieldsOf(ShapePair pair)
+{
+    if (pair == ShapePair::Axis) return {txtSMajAxis, txtSMinAxis};
+    if (pair == ShapePair::Apsis) return {txtPeri, txtApo};
+    return {txtPeriE, txtE};
+}
+
+OrbitReading ReadShape(const Simulation& sim)
+{
+    const double planetRadius = sim.state.PlanetRadius;
+    switch (sim.state.ShapeInput) {
+    case ShapePair::Axis:
+        return FromAxes(WholeNumber(sim, txtSMajAxis), WholeNumber(sim, txtSMinAxis), planetRadius);
+    case ShapePair::Apsis:
+        return FromApsides(Number(sim, txtPeri), Number(sim, txtApo), planetRadius);
+    case ShapePair::E:
+    case ShapePair::None: break;
+    }
+    return FromEccentricity(Number(sim, txtPeriE), Number(sim, txtE), planetRadius);
+}
+
+void MarkFields(Simulation& sim, std::string_view fault)
+{
+    for (const ShapePair pair : {ShapePair::Axis, ShapePair::Apsis, ShapePair::E}) {
+        const std::string_view why = pair == sim.state.ShapeInput ? fault : std::string_view();
+        SetFault(sim, FieldsOf(pair).first, why);
+        SetFault(sim, FieldsOf(pair).second, why);
+    }
+}
+
+void DeriveElements(Simulation& sim)
+{
+    const OrbitReading reading = ReadShape(sim);
+    MarkFields(sim, reading.fault);
+    if (!reading.elements) return;
+    SimState& state = sim.state;
+    state.SMajAxis = reading.elements->semiMajor;
+    state.SMinAxis = reading.elements->semiMinor;
+    state.Focus = reading.elements->focus;
+    state.Ecc = reading.elements->eccentricity;
+    state.PeriAlt = reading.elements->periapsis;
+    state.ApoAlt = reading.elements->apoapsis;
+}
+
+void DerivePeriodAndScale(SimState& state)
+{
+    state.PeriodSec = Period(state.PlanetMu, state.SMajAxis, state.Pi);
+    state.PeriodHours = state.PeriodSec / 3600;
+    state.SMajAxisPx = state.SMajAxis * state.KmScale;
+    state.FocusPx = state.Focus * state.KmScale;
+    state.PlanetPx = state.PlanetRadius * state.KmScale;
+}
+
+// The picture's x-y plane is not the equator: the equator lies tilted against it, so that an orbit
+// of inclination 0 with node 0 falls on the equator's ring.
+void ReadOrientation(Simulation& sim)
+{
+    SimState& state = sim.state;
+    state.Incl = Number(sim, txtIncl);
+    state.RAAN = Number(sim, txtRot);
+    state.PosRoll = Radians(state, state.RAAN);
+    if (state.OrbitMode == Scenario::SunSynch) state.PosRoll = state.HelioRad + state.PosRoll;
+    state.Incl = state.Incl - state.PlanetTilt * std::cos(state.PosRoll);
+    state.PosLon = Radians(state, state.Incl);
+    LoadNegativeView(sim);
+    state.ARGP = Number(sim, txtARGP) + 90;
+}
+
+Samples Follow(const SimState& state)
+{
+    Samples samples{};
+    const Projection project({state.PosLon, state.PosRoll, state.ViewRad});
+    const double farthest = Radians(state, state.ARGP);
+    for (int degree = 0; degree < kSamples; ++degree) {
+        const double inPlane = Radians(state, degree);
+        Sample& sample = samples[static_cast<std::size_t>(degree)];
+        sample.radius = RadiusAt(state.SMajAxisPx, state.Ecc, inPlane - farthest);
+        sample.point = project(sample.radius, inPlane);
+    }
+    return samples;
+}
+
+void Plot(Simulation& sim, const Samples& samples)
+{
+    const SimState& state = sim.state;
+    DrawingSurface& picture = sim.picSelvane;
+    for (const auto& [radius, point] : samples) {
+        const bool inShadow =
+            point.x > 0 && std::sqrt(point.y * point.y + point.z * point.z) < state.PlanetPx;
+        picture.ForeColor = inShadow ? RGB(127, 127, 127) : kWhite;
+        if (point.z > 0 || point.dist > state.PlanetPx)
+            picture.PSet(point.x + state.PlanetX, point.y + state.PlanetY);
+    }
+}
+
+// Turns the orbit back by the planet's angle round the Sun, so that the Sun's direction lies on
+// the -x side again for the shadow. True when that moved the orbit.
+bool ReferToTheSun(SimState& state)
+{
+    if (state.OrbitMode == Scenario::ES2)
+        state.RAAN = state.RAAN - state.HelioDeg;
+    else if (state.OrbitMode != Scenario::SunSynch)
+        return false;
+    state.PosRoll = Radians(state, state.RAAN);
+    return true;
+}
+
+// The shadow is a cylinder of the planet's radius behind the planet.
+void SumEclipse(SimState& state, const Samples& samples)
+{
+    state.EclipseSec = 0;
+    for (const auto& [radius, point] : samples) {
+        const double rate = AngularRate(state.PlanetMu, radius / state.KmScale, state.SMajAxis);
+        state.AngRate = rate * 180 / state.Pi;
+        state.SecPerDeg = 1 / state.AngRate;
+        if (point.x > 0 && point.y * point.y + point.z * point.z < state.PlanetPx * state.PlanetPx)
+            state.EclipseSec += state.SecPerDeg;
+    }
+}
+
+// What the loops leave behind: the last sample is the projection's present point.
+void LeaveLastSample(SimState& state, const Sample& last)
+{
+    state.PosLat = Radians(state, kSamples - 1);
+    state.PosRadius = last.radius;
+    StoreProjected(state, last.point);
+    state.SatDeg = kSamples;
+}
+
+} // namespace
+
+void DrawOrbit(Simulation& sim)
+{
+    SimState& state = sim.state;
+    DeriveElements(sim);
+    DerivePeriodAndScale(state);
+    ReadOrientation(sim);
+    Samples samples = Follow(state);
+    Plot(sim, samples);
+    if (ReferToTheSun(state)) samples = Follow(state);
+    SumEclipse(state, samples);
+    LeaveLastSample(state, samples.back());
+    sim.wiring.PrintValues(sim);
+}
+
+} // namespace selvane

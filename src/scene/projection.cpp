@@ -1,0 +1,109 @@
+#include "scene/projection.h"
+
+#include "app/simulation.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace selvane {
+
+namespace {
+
+// The angle of (across, along) by the two-branch rule: from -Pi / 2 up to 3 Pi / 2, and Pi / 2
+// where across is exactly 0.
+double TwoBranchAngle(double across, double along)
+{
+    double angle = across == 0 ? std::numbers::pi / 2 : std::atan(along / across);
+    if (across < 0) angle += std::numbers::pi;
+    return angle;
+}
+
+} // namespace
+
+Projection::Projection(Turn turn)
+    : turn_(turn), cosY_(std::cos(turn.aboutY)), sinY_(std::sin(turn.aboutY))
+{
+}
+
+Projected Projection::operator()(double radius, double inPlane) const
+{
+    return (*this)(radius, std::cos(inPlane), std::sin(inPlane));
+}
+
+Projected Projection::operator()(double radius, double cosInPlane, double sinInPlane) const
+{
+    const double x0 = radius * cosInPlane;
+    const double y1 = radius * sinInPlane;
+    const double x1 = x0 * cosY_;
+    const double z1 = x0 * sinY_;
+
+    Projected point{};
+    const double rho1 = std::sqrt(x1 * x1 + y1 * y1);
+    point.angle1 = TwoBranchAngle(x1, y1);
+    const double x2 = rho1 * std::cos(point.angle1 + turn_.aboutZ);
+    const double y2 = rho1 * std::sin(point.angle1 + turn_.aboutZ);
+    point.planeZ = z1;
+    point.planeDist = std::sqrt(x2 * x2 + y2 * y2);
+
+    const double rho2 = std::sqrt(y2 * y2 + z1 * z1);
+    point.angle2 = TwoBranchAngle(y2, z1);
+    point.x = x2;
+    point.y = rho2 * std::cos(point.angle2 + turn_.aboutX);
+    point.z = rho2 * std::sin(point.angle2 + turn_.aboutX);
+    point.dist = std::sqrt(point.x * point.x + point.y * point.y);
+    return point;
+}
+
+Projected Project(double radius, double inPlane, Turn turn)
+{
+    return Projection(turn)(radius, inPlane);
+}
+
+void LoadNegativeView(Simulation& sim)
+{
+    sim.state.ViewDeg = -Number(sim, txtView);
+    sim.state.ViewRad = Radians(sim.state, sim.state.ViewDeg);
+}
+
+void StoreProjected(SimState& state, const Projected& point)
+{
+    state.ProjX = point.x;
+    state.ProjY = point.y;
+    state.ProjZ = point.z;
+    state.ProjDist = point.dist;
+    state.ProjPlaneDist = point.planeDist;
+    state.ProjPlaneZ = point.planeZ;
+    state.ProjAngle1 = point.angle1;
+    state.ProjAngle2 = point.angle2;
+}
+
+void XYProjection(Simulation& sim)
+{
+    SimState& state = sim.state;
+    LoadNegativeView(sim);
+    StoreProjected(state, Project(state.PosRadius, state.PosLat,
+                                  {state.PosLon, state.PosRoll, state.ViewRad}));
+}
+
+void XYProjection2(Simulation& sim)
+{
+    SimState& state = sim.state;
+    StoreProjected(state, Project(state.PosRadius, state.GlobePosLat,
+                                  {state.GlobePosLon, state.GlobePosRoll, state.GlobeViewRad}));
+}
+
+void XYProjectionD(Simulation& sim)
+{
+    SimState& state = sim.state;
+    StoreProjected(state, Project(state.PosRadius, state.DemoPosLat,
+                                  {state.DemoPosLon, state.DemoPosRoll, state.DemoViewRad}));
+}
+
+void XYProjectionD0(Simulation& sim)
+{
+    SimState& state = sim.state;
+    StoreProjected(state, Project(state.PosRadius, state.DemoPosLat,
+                                  {state.SurfPosLon, state.SurfPosRoll, 0}));
+}
+
+} // namespace selvane

@@ -1,0 +1,63 @@
+// Turns a point of a tilted plane into a place on the picture.
+// Axes, right-handed: x right, y up, z out of the screen towards the viewer.
+// Lengths in display units, angles in radians. The projection's centre is the origin: a caller adds
+// the centre of the body that it draws.
+#pragma once
+
+namespace selvane {
+
+struct Simulation;
+struct SimState;
+
+struct Turn { double aboutY, aboutZ, aboutX; }; // applied in this order
+
+struct Projected
+{
+    double x, y, z;   // on the screen; z > 0: in front of the plane through the centre
+    double dist;      // from the centre on the screen
+    double planeDist; // from the centre in the x-y plane, before the turn about x
+    double planeZ;    // height over that plane, before the turn about x
+    double angle1, angle2;
+};
+
+// A turn whose fixed sine and cosine are worked out once for all points of a ring.
+class Projection
+{
+public:
+    explicit Projection(Turn turn);
+
+    // The point at that distance and angle in the plane. Radius 0 gives the origin. A point exactly
+    // on the negative y side takes the angle Pi / 2: the arctangent has two branches, not four.
+    Projected operator()(double radius, double inPlane) const;
+
+    // The same with the sine and cosine of the angle in the plane worked out beforehand.
+    Projected operator()(double radius, double cosInPlane, double sinInPlane) const;
+
+private:
+    Turn turn_;
+    double cosY_, sinY_;
+};
+
+Projected Project(double radius, double inPlane, Turn turn);
+
+// The orbit. Reads PosRadius, PosLat, PosLon, PosRoll and the number in txtView.
+// Writes ViewDeg, ViewRad (minus that number) and the outputs ProjX to ProjAngle2.
+void XYProjection(Simulation& sim);
+
+// The turning globe. Reads PosRadius and the Globe angles; writes the outputs.
+void XYProjection2(Simulation& sim);
+
+// The tutorial scenes. Reads PosRadius and the Demo angles; writes the outputs.
+void XYProjectionD(Simulation& sim);
+
+// The polar axes scene, which is not tilted. Reads PosRadius, DemoPosLat and the Surf angles;
+// writes the outputs.
+void XYProjectionD0(Simulation& sim);
+
+// Writes the outputs ProjX to ProjAngle2.
+void StoreProjected(SimState& state, const Projected& point);
+
+// Sets ViewDeg and ViewRad to minus the number in txtView.
+void LoadNegativeView(Simulation& sim);
+
+} // namespace selvane

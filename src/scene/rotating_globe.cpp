@@ -1,0 +1,120 @@
+#include "scene/rotating_globe.h"
+
+#include "app/number_text.h"
+#include "app/simulation.h"
+#include "scene/orbit.h"
+#include "scene/planet_disc.h"
+#include "scene/projection.h"
+#include "scene/surroundings.h"
+
+#include <cmath>
+
+namespace selvane {
+
+namespace {
+
+bool SunIsAtTheOrigin(Scenario mode) { return mode == Scenario::ES2 || mode == Scenario::SunSynch; }
+
+bool SunIsAtTheEdge(Scenario mode)
+{
+    return mode == Scenario::ES1 || mode == Scenario::Geo || mode == Scenario::Moly;
+}
+
+void PlaceBodies(Simulation& sim)
+{
+    SimState& state = sim.state;
+    if (SunIsAtTheEdge(state.OrbitMode)) {
+        state.SunX = -sim.picSelvane.ScaleWidth / 2;
+        state.SunY = 0;
+        state.PlanetX = 0;
+        state.PlanetY = 0;
+    } else if (SunIsAtTheOrigin(state.OrbitMode)) {
+        state.SunX = 0;
+        state.SunY = 0;
+    }
+}
+
+SunPlace PlaceOfSun(Scenario mode)
+{
+    if (SunIsAtTheEdge(mode)) return SunPlace::Edge;
+    return SunIsAtTheOrigin(mode) ? SunPlace::Origin : SunPlace::Nowhere;
+}
+
+void Ring(Simulation& sim, double inclination, double roll)
+{
+    SimState& state = sim.state;
+    state.GlobeInclDeg = inclination;
+    state.GlobePosLon = Radians(state, inclination);
+    state.GlobePosRoll = roll;
+    const double step = state.Pi / 180;
+    for (state.GlobePosLat = 0; state.GlobePosLat <= 2 * state.Pi; state.GlobePosLat += step) {
+        XYProjection2(sim);
+        if (state.ProjZ > 0)
+            sim.picSelvane.PSet(state.ProjX + state.PlanetX, state.ProjY + state.PlanetY);
+    }
+}
+
+void Equator(Simulation& sim)
+{
+    SimState& state = sim.state;
+    state.GlobeViewRad = Radians(state, state.GlobeViewDeg);
+    Ring(sim, -state.PlanetTilt, 0);
+}
+
+void Meridian(Simulation& sim, double roll)
+{
+    Ring(sim, 90 - sim.state.PlanetTilt * std::cos(roll), roll);
+}
+
+// One correction only: a step of more than a turn leaves the rotation above 360, and nothing is
+// corrected below 0.
+void TurnPlanet(SimState& state)
+{
+    state.PlanetRotDeg += state.RotPerStep * state.SatDir;
+    if (state.PlanetRotDeg > 360) state.PlanetRotDeg -= 360;
+}
+
+void ShowClock(Simulation& sim)
+{
+    const SimState& state = sim.state;
+    const double time = state.PlanetRotDeg * state.PlanetDay; // degrees x hours
+    const double hours = std::floor(time / 360);
+    const double minutes = std::fmod(RoundHalfEven(time / 6), 60);
+    const char* name = state.PlanetName == "Earth" ? "GMT" : "Planet Time";
+    SetCaption(sim, lblOutput(14), std::string(name) + " = " + TwoDigits(hours) + ":" +
+                                       TwoDigits(minutes));
+}
+
+} // namespace
+
+void RotatingPlanet(Simulation& sim)
+{
+    SimState& state = sim.state;
+    DrawingSurface& picture = sim.picSelvane;
+    state.CurPic = &picture;
+    state.PlanetPx = state.KmScale * state.PlanetRadius;
+    state.ViewDeg = Number(sim, txtView); // ViewRad stays as the last projection left it
+    PlaceBodies(sim);
+
+    picture.Cls();
+    ReferenceLines(sim);
+    SunAndSunlight(sim, PlaceOfSun(state.OrbitMode));
+    MarkersBehind(sim, 90 - state.PlanetTilt, std::sin(state.ViewRad));
+    BarePlanet(sim);
+
+    state.PosRadius = state.PlanetPx;
+    picture.ForeColor = RGB(127, 127, 127);
+    Equator(sim);
+    TurnPlanet(state);
+    Meridian(sim, Radians(state, state.PlanetRotDeg));
+    picture.ForeColor = RGB(191, 191, 191);
+    Meridian(sim, Radians(state, state.PlanetRotDeg) + state.Pi / 2);
+    ShowClock(sim);
+
+    state.SavedSatDeg = state.SatDeg;
+    DrawOrbit(sim);
+    state.SatDeg = state.SavedSatDeg;
+    MarkersInFront(sim);
+}
+
+} // namespace selvane
