@@ -13,7 +13,14 @@ namespace selvane {
 struct Simulation;
 
 enum class AboutControl {
-    picIcon, lblTitle, lblVersion, lblDescription, LblWebsite, Label1, lblDisclaimer, cmdOK,
+    picIcon,
+    lblTitle,
+    lblVersion,
+    lblDescription,
+    LblWebsite,
+    Label1,
+    lblDisclaimer,
+    cmdOK,
     cmdSysInfo
 };
 
@@ -21,25 +28,33 @@ struct AboutRow
 {
     AboutControl control;
     std::string_view name;
-    std::string_view text; // empty: set when the box is loaded
-    Place place;           // pixels of the client area, from twips at 15 a pixel
+    std::string_view text; // empty: none, or set when the box is loaded; '&' marks an access key
+    Place place;           // pixels of the client area
     double points;         // font size; 0 for the icon
     Weight weight;
-    Underline underline;
+    Underline underline; // underlined labels are links, in kLinkColour
 };
 
-inline constexpr int kAboutClientWidth = 382, kAboutClientHeight = 237;
+inline constexpr int kAboutClientWidth = 382, kAboutClientHeight = 237; // pixels
+inline constexpr Colour kLinkColour{0, 0, 255};
 
-// The etched rule between the links and the lower block, in pixels: grey over white.
-struct RuleLine { double x1, x2, y; Colour colour; int width; };
+// The etched rule between the links and the lower block: grey over white. Pixels.
+struct RuleLine
+{
+    double left, right, y;
+    Colour colour;
+    int width;
+};
 
+// In the order of the controls.
 std::span<const AboutRow> AboutTable();
 std::span<const RuleLine> AboutRules();
 
+// Shows the window, loading it first where it is not loaded.
 void mnAbout_Click(Simulation& sim);
 
 namespace frmAbout {
-void Form_Load(Simulation& sim);
+void Form_Load(Simulation& sim); // writes the captions in sim.windows.frmAbout
 void cmdOK_Click(Simulation& sim);
 void cmdSysInfo_Click(Simulation& sim);
 void Label1_Click(Simulation& sim);
@@ -50,8 +65,9 @@ void LblWebsite_Click(Simulation& sim);
 // available.
 void StartSysInfo(Simulation& sim);
 
-// Reads one value: a string as it is, a 32-bit number appended in hexadecimal with "&h" in front;
-// any other type leaves keyVal. False, and an empty keyVal, when it cannot be read.
+// Reads the value subKeyRef of the key keyName: a string as it is; a 32-bit number as hexadecimal
+// digits, highest byte first, after what keyVal held and with "&h" before all; any other type
+// leaves keyVal. False, and an empty keyVal, when it cannot be read.
 bool GetKeyValue(Simulation& sim, std::uint32_t keyRoot, const std::string& keyName,
                  const std::string& subKeyRef, std::string& keyVal);
 

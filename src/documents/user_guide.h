@@ -11,7 +11,12 @@ namespace selvane {
 struct Simulation;
 
 enum class Topic {
-    lblIntroduction, lblTerminology, lblMainDisplay, lblEnergy, lblOrbitShape, lblOrbitPosition,
+    lblIntroduction,
+    lblTerminology,
+    lblMainDisplay,
+    lblEnergy,
+    lblOrbitShape,
+    lblOrbitPosition,
     lblOrbitParameters
 };
 
@@ -23,23 +28,28 @@ struct TopicRow
     std::string_view document;
 };
 
-// Places as laid out, at 15 twips a pixel.
-inline constexpr int kTwipsPerPixel = 15;
+// Places as laid out, in pixels.
 inline constexpr std::string_view kUserGuideCaption = "UserGuide";
 inline constexpr Place kUserGuideClient{826, 64, 417, 665}; // place on the screen, client size
 inline constexpr Place kUserGuidePane{8, 56, 400, 600};
-inline constexpr int kUserGuideMarginX = 33, kUserGuideMarginY = 104;
 
+// In the order of the topics, which is the reading order.
 std::span<const TopicRow> TopicTable();
 
-// The pane's size for the window's outer size, pixels; never below 0.
-struct PaneSize { int width, height; };
+// The pane's size for the window's outer size, frame included, in pixels. Never below 0.
+struct PaneSize
+{
+    int width, height;
+    bool operator==(const PaneSize&) const = default;
+};
 PaneSize PaneSizeFor(int outerWidth, int outerHeight);
 
+// Shows the window, loading it first where it is not loaded.
 void mnUserGuide_Click(Simulation& sim);
 
+// Documents go into the pane of sim.windows.frmUserGuide; one that cannot be read leaves it.
 namespace frmUserGuide {
-void Form_Activate(Simulation& sim); // loads the introduction
+void Form_Activate(Simulation& sim); // loads the introduction, whichever topic was open
 void Topic_Click(Simulation& sim, Topic topic);
 } // namespace frmUserGuide
 
