@@ -1,0 +1,240 @@
+// The user guide and the about box without their windows: what a click loads, opens or starts.
+#include "app/help_pane.h"
+#include "app/simulation.h"
+#include "documents/about_box.h"
+#include "documents/rich_text.h"
+#include "documents/user_guide.h"
+
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+
+using namespace selvane;
+
+namespace {
+
+const std::string kTool = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
+const std::string kToolFolder = "SOFTWARE\\Microsoft\\Shared Tools Location";
+
+// A machine with a registry of text keys; notes what it is asked, in order.
+class FakeMachine : public Platform
+{
+public:
+    std::map<std::string, RegistryValue> registry; // by "key|value"
+    std::set<std::string, std::less<>> documents, files, startable;
+    std::vector<std::string> asked;
+    int keysOpen = 0;
+
+    LocalTime Now() const override { return {}; }
+    std::optional<std::string> ReadDocument(std::string_view name) const override
+    {
+        if (!documents.contains(name)) return std::nullopt;
+        return std::string(name);
+    }
+    void OpenLink(std::string_view target) override { Note("open ", target); }
+    bool StartProgram(const std::string& path) override
+    {
+        Note("start ", path);
+        return startable.contains(path);
+    }
+    bool FileExists(const std::string& path) const override { return files.contains(path); }
+    void ShowMessage(std::string_view text, std::string_view title) override
+    {
+        Note(std::string(title) + ": ", text);
+    }
+    std::optional<RegistryKey> OpenKey(std::uint32_t root, const std::string& path,
+                                       std::uint32_t access) override
+    {
+        EXPECT_EQ(root, 0x80000002);
+        EXPECT_EQ(access, 0x2003F);
+        Note("key ", path);
+        if (!registry.contains(path)) return std::nullopt;
+        ++keysOpen;
+        opened_ = path;
+        return RegistryKey{7};
+    }
+    std::optional<RegistryValue> QueryValue(RegistryKey key, const std::string& name,
+                                            std::uint32_t bufferSize) override
+    {
+        EXPECT_EQ(key, RegistryKey{7});
+        EXPECT_EQ(bufferSize, 1024);
+        const auto found = registry.find(opened_ + "|" + name);
+        if (found == registry.end()) return std::nullopt;
+        return found->second;
+    }
+    void CloseKey(RegistryKey) override { --keysOpen; }
+
+    void Put(const std::string& key, const std::string& value, std::uint32_t type,
+             const std::string& bytes)
+    {
+        registry[key] = {};
+        registry[key + "|" + value] = {type, bytes};
+    }
+
+private:
+    std::string opened_;
+
+    void Note(const std::string& what, std::string_view which)
+    {
+        asked.push_back(what + std::string(which));
+    }
+};
+
+struct Desk
+{
+    DrawingSurface pictures[2]{{800, 600}, {400, 300}};
+    FakeMachine machine;
+    Wiring wiring;
+    Simulation sim{pictures[0], pictures[1], machine, wiring};
+
+    Desk()
+    {
+        for (const TopicRow& row : TopicTable()) machine.documents.emplace(row.document);
+        wiring.load[Index(WindowId::About)] = frmAbout::Form_Load;
+        wiring.activate[Index(WindowId::UserGuide)] = frmUserGuide::Form_Activate;
+        wiring.readRichText = [](const std::string&) { return std::make_shared<const RichText>(); };
+        ShowWindow(sim, WindowId::Main);
+    }
+    const HelpPane& Pane() const { return sim.windows.frmUserGuide.txtHelp; }
+};
+
+using Strings = std::vector<std::string>;
+const std::string kUnavailable = "Selvane: System Information Is Unavailable At This Time";
+
+} // namespace
+
+TEST(UserGuide, EachTopicLoadsItsDocument)
+{
+    const std::map<std::string, std::string> expected = {
+        {"Introduction", "Introduction.rtf"},       {"Terminolgy", "Terminology.rtf"},
+        {"Main Display", "MainDisplay.rtf"},        {"Orbital Energies", "Energy.rtf"},
+        {"Orbit Shape", "OrbitShape.rtf"},          {"Orbit Position", "OrbitPosition.rtf"},
+        {"Orbit Parameters", "OrbitParameters.rtf"}};
+    Desk desk;
+    mnUserGuide_Click(desk.sim);
+    EXPECT_EQ(desk.Pane().document, "Introduction.rtf");
+    ASSERT_EQ(TopicTable().size(), expected.size());
+    for (const TopicRow& row : TopicTable()) {
+        frmUserGuide::Topic_Click(desk.sim, row.topic);
+        EXPECT_EQ(desk.Pane().document, expected.at(std::string(row.caption)));
+        EXPECT_EQ(row.name.substr(0, 3), "lbl");
+    }
+}
+
+TEST(UserGuide, AReturnGoesBackToTheIntroductionButAClickInTheMenuDoesNot)
+{
+    Desk desk;
+    mnUserGuide_Click(desk.sim);
+    frmUserGuide::Topic_Click(desk.sim, Topic::lblEnergy);
+    mnUserGuide_Click(desk.sim); // active already
+    EXPECT_EQ(desk.Pane().document, "Energy.rtf");
+    ActivateWindow(desk.sim, WindowId::Main);
+    EXPECT_EQ(desk.Pane().document, "Energy.rtf");
+    ActivateWindow(desk.sim, WindowId::UserGuide);
+    EXPECT_EQ(desk.Pane().document, "Introduction.rtf");
+    desk.machine.documents.clear();
+    const unsigned loads = desk.Pane().loads;
+    frmUserGuide::Topic_Click(desk.sim, Topic::lblTerminology);
+    EXPECT_EQ(desk.Pane().document, "Introduction.rtf") << "a missing document leaves the pane";
+    EXPECT_EQ(desk.Pane().loads, loads);
+}
+
+TEST(UserGuide, ThePaneFollowsTheOuterSizeAndStopsAtNothing)
+{
+    EXPECT_EQ(PaneSizeFor(433, 704), (PaneSize{400, 600}));
+    EXPECT_EQ(PaneSizeFor(443, 704), (PaneSize{410, 600}));
+    EXPECT_EQ(PaneSizeFor(33, 104), (PaneSize{0, 0}));
+    EXPECT_EQ(PaneSizeFor(0, 105), (PaneSize{0, 1}));
+}
+
+TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
+{
+    Desk desk;
+    mnAbout_Click(desk.sim);
+    const AboutWindow& box = desk.sim.windows.frmAbout;
+    EXPECT_EQ(box.caption, "About Selvane");
+    EXPECT_EQ(box.lblTitle, "Selvane");
+    EXPECT_EQ(box.lblVersion, "Version 2.1.0");
+    EXPECT_TRUE(box.lblDisclaimer.ends_with("\n\rhttps://selvane.example.org"));
+    frmAbout::cmdOK_Click(desk.sim);
+    EXPECT_FALSE(IsLoaded(desk.sim, WindowId::About));
+    EXPECT_EQ(box.caption, "");
+}
+
+TEST(AboutBox, EachLinkOpensOnce)
+{
+    Desk desk;
+    mnAbout_Click(desk.sim);
+    frmAbout::LblWebsite_Click(desk.sim);
+    frmAbout::Label1_Click(desk.sim);
+    EXPECT_EQ(desk.machine.asked, (Strings{"open https://selvane.example.org",
+                                           "open mailto:contact@selvane.example.org"}));
+    EXPECT_TRUE(IsActive(desk.sim, WindowId::About));
+}
+
+TEST(SystemInformation, TheFirstValueIsTakenAtItsWord)
+{
+    Desk desk;
+    desk.machine.Put(kTool, "PATH", 1, std::string("C:\\info.exe\0", 12));
+    desk.machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools");
+    desk.machine.startable = {"C:\\info.exe"};
+    StartSysInfo(desk.sim);
+    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "start C:\\info.exe"}));
+    desk.machine.startable.clear();
+    desk.machine.asked.clear();
+    StartSysInfo(desk.sim);
+    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "start C:\\info.exe", kUnavailable}));
+    desk.machine.asked.clear();
+    desk.machine.Put(kTool, "PATH", 3, "binary"); // no text: an empty path is started, and fails
+    StartSysInfo(desk.sim);
+    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "start ", kUnavailable}));
+}
+
+TEST(SystemInformation, TheSecondValueIsAFolderThatMustHoldTheTool)
+{
+    Desk desk;
+    desk.machine.registry[kTool] = {}; // the key is there, its value is not
+    StartSysInfo(desk.sim);
+    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "key " + kToolFolder, kUnavailable}));
+    desk.machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools\\");
+    const std::string tool = "C:\\Tools\\\\MSINFO32.EXE";
+    desk.machine.startable = {tool};
+    desk.machine.asked.clear();
+    StartSysInfo(desk.sim);
+    EXPECT_EQ(desk.machine.asked.back(), kUnavailable);
+    desk.machine.files = {tool};
+    StartSysInfo(desk.sim);
+    EXPECT_EQ(desk.machine.asked.back(), "start " + tool);
+    EXPECT_EQ(desk.machine.keysOpen, 0);
+}
+
+TEST(Registry, AValueIsReadByItsType)
+{
+    struct Case
+    {
+        std::uint32_t type;
+        std::string bytes, before, after;
+    };
+    const std::vector<Case> cases = {
+        {1, std::string("text\0", 5), "old", "text"},
+        {1, "text", "old", "text"},
+        {1, std::string("a\0\0", 3), "", std::string("a\0", 2)}, // one ending zero, no more
+        {1, std::string(1024, 'x'), "", std::string(1024, 'x')}, // as long as the buffer
+        {1, "", "old", ""},
+        {4, std::string("\x03\x00\x00\x00", 4), "", "&h003"}, // the last byte is an ending zero
+        {4, std::string("\x78\x56\x34\xFA", 4), "", "&hFA345678"},
+        {4, "\x01\x0A", "old", "&holdA1"}, // no leading zeros; what stood there stays in front
+        {4, "", "old", "&hold"},
+        {2, "%TEMP%", "old", "old"},
+    };
+    for (const Case& c : cases) {
+        Desk desk;
+        desk.machine.Put("key", "name", c.type, c.bytes);
+        std::string value = c.before;
+        EXPECT_TRUE(GetKeyValue(desk.sim, 0x80000002, "key", "name", value));
+        EXPECT_EQ(value, c.after) << "type " << c.type;
+        EXPECT_FALSE(GetKeyValue(desk.sim, 0x80000002, "key", "other", value));
+        EXPECT_EQ(value, "");
+        EXPECT_EQ(desk.machine.keysOpen, 0);
+    }
+}
