@@ -15,8 +15,14 @@ namespace {
 // again. Three levels occur; far more than that is a mistake of ours.
 constexpr int kDeepestNesting = 16;
 
-ScrollBar& Bar(Simulation& sim, ScrollBarId bar) { return sim.controls.scrollBars[Index(bar)]; }
-NumberField& Field(Simulation& sim, FieldId field) { return sim.controls.fields[Index(field)]; }
+ScrollBar& Bar(Simulation& sim, ScrollBarId bar)
+{
+    return sim.controls.scrollBars[Index(bar)];
+}
+NumberField& Field(Simulation& sim, FieldId field)
+{
+    return sim.controls.fields[Index(field)];
+}
 
 void ReadValue(NumberField& field)
 {
@@ -30,14 +36,15 @@ Controls InitialControls()
 {
     Controls controls;
     for (const ScrollBarRow& row : ScrollBarTable())
-        controls.scrollBars[Index(row.id)] = {row.min, row.max, row.smallChange, row.largeChange,
-                                              row.value, true};
+        controls.scrollBars[Index(row.id)] = {row.min,         row.max,   row.smallChange,
+                                              row.largeChange, row.value, true};
     for (const FieldRow& row : FieldTable()) {
         NumberField& field = controls.fields[Index(row.id)];
         field.text = row.text;
         ReadValue(field);
     }
-    for (const ButtonRow& row : ButtonTable()) controls.buttons[Index(row.id)].visible = row.visible;
+    for (const ButtonRow& row : ButtonTable())
+        controls.buttons[Index(row.id)].visible = row.visible;
     for (const LabelRow& row : LabelTable())
         controls.labels[Index(row.id)] = {std::string(row.caption), std::string(row.toolTip), true};
     for (const TimerRow& row : TimerTable())
@@ -119,8 +126,14 @@ void SetToolTip(Simulation& sim, LabelId label, std::string_view toolTip)
     sim.controls.labels[Index(label)].toolTip = toolTip;
 }
 
-void Show(Simulation& sim, ScrollBarId bar, bool visible) { Bar(sim, bar).visible = visible; }
-void Show(Simulation& sim, FieldId field, bool visible) { Field(sim, field).visible = visible; }
+void Show(Simulation& sim, ScrollBarId bar, bool visible)
+{
+    Bar(sim, bar).visible = visible;
+}
+void Show(Simulation& sim, FieldId field, bool visible)
+{
+    Field(sim, field).visible = visible;
+}
 
 void Show(Simulation& sim, LabelId label, bool visible)
 {
@@ -153,7 +166,10 @@ void Check(Simulation& sim, MenuId item, bool checked)
     sim.controls.menu[Index(item)].checked = checked;
 }
 
-bool IsChecked(const Simulation& sim, MenuId item) { return sim.controls.menu[Index(item)].checked; }
+bool IsChecked(const Simulation& sim, MenuId item)
+{
+    return sim.controls.menu[Index(item)].checked;
+}
 
 void ShowMarker(Simulation& sim, bool visible)
 {

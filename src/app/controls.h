@@ -57,16 +57,16 @@ struct MenuItem
 struct Marker
 {
     bool visible = true;
-    std::optional<Colour> back;        // nothing before the first placing
+    std::optional<Colour> back; // nothing before the first placing
     std::optional<double> left, top;
 };
 
 // A rich-text pane.
 struct HelpPane
 {
-    std::string document;                  // name last loaded, empty when emptied
-    std::shared_ptr<const RichText> text;  // null when emptied
-    unsigned loads = 0;                    // counts loads and emptyings: a new one starts at the top
+    std::string document;                 // name last loaded, empty when emptied
+    std::shared_ptr<const RichText> text; // null when emptied
+    unsigned loads = 0;                   // counts loads and emptyings: a new one starts at the top
 };
 
 struct Controls

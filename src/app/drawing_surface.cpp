@@ -22,7 +22,10 @@ std::optional<Colour> DrawingSurface::FillOfClosedShape() const
     return FillStyle == Fill::Solid ? std::optional(FillColor) : std::nullopt;
 }
 
-void DrawingSurface::Cls() { OnCls(); }
+void DrawingSurface::Cls()
+{
+    OnCls();
+}
 
 void DrawingSurface::Line(double x1, double y1, double x2, double y2)
 {
@@ -34,7 +37,10 @@ void DrawingSurface::Line(double x1, double y1, double x2, double y2, Colour col
     OnLine(Single(x1), Single(y1), Single(x2), Single(y2), colour);
 }
 
-void DrawingSurface::Circle(double x, double y, double radius) { Circle(x, y, radius, ForeColor); }
+void DrawingSurface::Circle(double x, double y, double radius)
+{
+    Circle(x, y, radius, ForeColor);
+}
 
 void DrawingSurface::Circle(double x, double y, double radius, Colour outline)
 {
@@ -52,7 +58,10 @@ void DrawingSurface::Circle(double x, double y, double radius, Colour outline, d
         OnArc(Single(x), Single(y), Single(radius), outline, start, end);
 }
 
-void DrawingSurface::PSet(double x, double y) { OnPoint(Single(x), Single(y), ForeColor); }
+void DrawingSurface::PSet(double x, double y)
+{
+    OnPoint(Single(x), Single(y), ForeColor);
+}
 
 void DrawingSurface::MoveTo(double x, double y)
 {
@@ -60,6 +69,9 @@ void DrawingSurface::MoveTo(double x, double y)
     CurrentY = Single(y);
 }
 
-void DrawingSurface::Print(std::string_view text) { OnText(CurrentX, CurrentY, ForeColor, text); }
+void DrawingSurface::Print(std::string_view text)
+{
+    OnText(CurrentX, CurrentY, ForeColor, text);
+}
 
 } // namespace selvane

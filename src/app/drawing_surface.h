@@ -18,10 +18,13 @@ class DrawingSurface
 public:
     // The outer size in pixels; the user scale starts with one unit per pixel, centred.
     DrawingSurface(int width, int height)
-        : ScaleLeft(-width / 2.0), ScaleTop(height / 2.0), ScaleWidth(width), ScaleHeight(-height),
-          Width(width), Height(height)
-    {
-    }
+        : ScaleLeft(-width / 2.0),
+          ScaleTop(height / 2.0),
+          ScaleWidth(width),
+          ScaleHeight(-height),
+          Width(width),
+          Height(height)
+    {}
     virtual ~DrawingSurface() = default;
     DrawingSurface(const DrawingSurface&) = delete;
     DrawingSurface& operator=(const DrawingSurface&) = delete;
@@ -31,9 +34,9 @@ public:
     const int Width, Height;
 
     // Stay as set, also across Cls.
-    Colour ForeColor;              // outlines, dots and text
+    Colour ForeColor; // outlines, dots and text
     Colour FillColor;
-    Fill FillStyle = Fill::Solid;  // whether closed circles and sectors are filled
+    Fill FillStyle = Fill::Solid;     // whether closed circles and sectors are filled
     float CurrentX = 0, CurrentY = 0; // top left corner of the next text
 
     void Cls();

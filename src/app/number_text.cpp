@@ -12,7 +12,10 @@ namespace {
 
 constexpr std::string_view kBlanks = " \t\n\v\f\r";
 
-bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+bool IsDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
 
 struct NumericPrefix
 {

@@ -57,9 +57,8 @@ public:
         return std::nullopt;
     }
     // Nothing when the value cannot be read, or is longer than the buffer.
-    virtual std::optional<RegistryValue> QueryValue(RegistryKey /*key*/,
-                                                    const std::string& /*name*/,
-                                                    std::uint32_t /*bufferSize*/)
+    virtual std::optional<RegistryValue>
+    QueryValue(RegistryKey /*key*/, const std::string& /*name*/, std::uint32_t /*bufferSize*/)
     {
         return std::nullopt;
     }

@@ -24,83 +24,89 @@ enum class ShapePair { None, Axis, Apsis, E };
 // The tutorial scene on show.
 enum class SceneKey { None, Demo0, Demo1, Demo2, Demo3, Demo31, Demo32 };
 
-std::string_view Text(Scenario scenario);   // "ES1", ...; empty for None
-std::string_view Text(ShapePair pair);      // "Axis", "Apsis", "E"; empty for None
-std::string_view Text(SceneKey key);        // "Demo0", ...; empty for None
+// The satellite flies round a planet in the middle of the picture: "ES1", "Geo", "Moly".
+bool SatelliteFlies(Scenario scenario);
+
+// The planet travels round the Sun in the middle of the picture: "ES2", "SunSynch".
+bool IsSunCentred(Scenario scenario);
+
+std::string_view Text(Scenario scenario); // "ES1", ...; empty for None
+std::string_view Text(ShapePair pair);    // "Axis", "Apsis", "E"; empty for None
+std::string_view Text(SceneKey key);      // "Demo0", ...; empty for None
 
 struct SimState
 {
     // The planet.
     std::string PlanetName;
-    double PlanetRadius = 0;  // km, mean
-    double PlanetMu = 0;      // km^3/s^2, gravitational parameter
-    double PlanetTilt = 0;    // degrees, axial tilt
-    double PlanetDay = 0;     // hours, length of the day
-    Colour PlanetLight;       // day side
-    Colour PlanetDark;        // night side
-    double PlanetRotDeg = 0;  // degrees, present rotation; 360 is legal, below 0 too after Reverse
-    double RotPerStep = 0;    // degrees of rotation that belong to one step of the satellite
+    double PlanetRadius = 0; // km, mean
+    double PlanetMu = 0;     // km^3/s^2, gravitational parameter
+    double PlanetTilt = 0;   // degrees, axial tilt
+    double PlanetDay = 0;    // hours, length of the day
+    Colour PlanetLight;      // day side
+    Colour PlanetDark;       // night side
+    double PlanetRotDeg = 0; // degrees, present rotation; 360 is legal, below 0 too after Reverse
+    double RotPerStep = 0;   // degrees of rotation that belong to one step of the satellite
 
     // Scale and view.
-    double Pi = 0;            // 4 arctan 1; every conversion of angles uses it
-    double KmScale = 0;       // display units per km: 50 / PlanetRadius
-    double PlanetPx = 0;      // display units, the planet's radius on the picture
-    double Zoom = 0;          // pixels per display unit, 0.1 to 2
-    double ViewDeg = 0;       // tilt of the view; which sign it has depends on who wrote it last
+    double Pi = 0;       // 4 arctan 1; every conversion of angles uses it
+    double KmScale = 0;  // display units per km: 50 / PlanetRadius
+    double PlanetPx = 0; // display units, the planet's radius on the picture
+    double Zoom = 0;     // pixels per display unit, 0.1 to 2
+    double ViewDeg = 0;  // tilt of the view; which sign it has depends on who wrote it last
     double ViewRad = 0;
-    double GlobeViewDeg = 0;  // minus the value of txtView, as the view bar left it
+    double GlobeViewDeg = 0;          // minus the value of txtView, as the view bar left it
     DrawingSurface* CurPic = nullptr; // the picture in use
 
     // The orbit's elements, derived by DrawOrbit.
-    double SMajAxis = 0;      // km, semi-major axis
-    double SMinAxis = 0;      // km, semi-minor axis
-    double Focus = 0;         // km from the orbit's centre to its focus
-    double Ecc = 0;           // eccentricity; negative when the apsides have changed ends
-    double PeriAlt = 0;       // km above the surface
-    double ApoAlt = 0;        // km above the surface
+    double SMajAxis = 0; // km, semi-major axis
+    double SMinAxis = 0; // km, semi-minor axis
+    double Focus = 0;    // km from the orbit's centre to its focus
+    double Ecc = 0;      // eccentricity; negative when the apsides have changed ends
+    double PeriAlt = 0;  // km above the surface
+    double ApoAlt = 0;   // km above the surface
     double PeriodSec = 0;
     double PeriodHours = 0;
     double SMajAxisPx = 0;
     double FocusPx = 0;
-    double EclipseSec = 0;    // time in the shadow per orbit
+    double EclipseSec = 0; // time in the shadow per orbit
 
     // The orbit's place.
-    double Incl = 0;          // degrees, against the picture's x-y plane once DrawOrbit has run
-    double RAAN = 0;          // degrees, right ascension of the ascending node
-    double ArgpDeg = 0;       // degrees, value of txtARGP
-    double ARGP = 0;          // degrees, value of txtARGP + 90: where the radius is largest
+    double Incl = 0;    // degrees, against the picture's x-y plane once DrawOrbit has run
+    double RAAN = 0;    // degrees, right ascension of the ascending node
+    double ArgpDeg = 0; // degrees, value of txtARGP
+    double ARGP = 0;    // degrees, value of txtARGP + 90: where the radius is largest
 
     // The satellite.
-    double SatDeg = 0;        // degrees along the orbit; also the counter of the drawing loops
-    double SavedSatDeg = 0;   // SatDeg across a redraw
-    int SatDir = 0;           // +1, or -1 after a step back
-    double TrueAnomaly = 0;   // degrees
-    double SatRA = 0;         // degrees, right ascension
-    double SatLat = 0;        // degrees, latitude and declination
-    double SatLon = 0;        // degrees, longitude
-    double AngRate = 0;       // degrees per second at the present point
-    double SecPerDeg = 0;     // its reciprocal
-    double SatVelocity = 0;   // km/s
+    double SatDeg = 0;          // degrees along the orbit; also the counter of the drawing loops
+    double SavedSatDeg = 0;     // SatDeg across a redraw
+    int SatDir = 0;             // +1, or -1 after a step back
+    double TrueAnomaly = 0;     // degrees
+    double SatRA = 0;           // degrees, right ascension
+    double SatLat = 0;          // degrees, latitude and declination
+    double SatLon = 0;          // degrees, longitude
+    double AngRate = 0;         // degrees per second at the present point
+    double SecPerDeg = 0;       // its reciprocal
+    double SatVelocity = 0;     // km/s
     double PotentialEnergy = 0; // MJ/kg, as the other two
     double KineticEnergy = 0;
     double TotalEnergy = 0;
 
     // The scene.
-    double PlanetX = 0;       // display units, the planet's centre on the picture
+    double PlanetX = 0; // display units, the planet's centre on the picture
     double PlanetY = 0;
-    double SunX = 0;          // display units, the Sun's centre
+    double SunX = 0; // display units, the Sun's centre
     double SunY = 0;
-    double HelioDeg = 0;      // planet's angle on its path round the Sun, 0 to under 360
+    double HelioDeg = 0; // planet's angle on its path round the Sun, 0 to under 360
     double HelioRad = 0;
-    double HelioPx = 0;       // radius of that path at zoom 1
+    double HelioPx = 0; // radius of that path at zoom 1
 
     // Scenarios, tutorials and what the bars do.
     Scenario OrbitMode = Scenario::None;
     Scenario SavedOrbitMode = Scenario::None; // across one press of Next or Back
     ShapePair ShapeInput = ShapePair::None;
-    bool RedrawEnabled = true;  // false inside a row of assignments that is to draw once
-    int HelpStep1 = 0;          // step of Reference Frames, 20 to 23
-    int HelpStep2 = 0;          // step of Time Standards, 31 to 32
+    bool RedrawEnabled = true; // false inside a row of assignments that is to draw once
+    int HelpStep1 = 0;         // step of Reference Frames, 20 to 23
+    int HelpStep2 = 0;         // step of Time Standards, 31 to 32
     SceneKey CurrentDemo = SceneKey::None;
     std::string HelpFile;       // document of the tutorial step last shown
     double GmtOffset = 0;       // hours from GMT to local time

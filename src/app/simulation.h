@@ -45,10 +45,12 @@ struct Simulation
     // The surfaces, the platform and the wiring outlive the simulation.
     Simulation(DrawingSurface& mainPicture, DrawingSurface& tutorialPicture, Platform& machine,
                const Wiring& wires)
-        : controls(InitialControls()), picSelvane(mainPicture), picDemo(tutorialPicture),
-          platform(machine), wiring(wires)
-    {
-    }
+        : controls(InitialControls()),
+          picSelvane(mainPicture),
+          picDemo(tutorialPicture),
+          platform(machine),
+          wiring(wires)
+    {}
 
     SimState state;
     Controls controls;

@@ -14,11 +14,6 @@ namespace {
 // The north marker behind this globe keeps the Earth's direction on every planet.
 constexpr double kFarNorthAxisDeg = 66.6;
 
-SunPlace PlaceOfSun(Scenario mode)
-{
-    return mode == Scenario::ES2 || mode == Scenario::SunSynch ? SunPlace::Origin : SunPlace::Edge;
-}
-
 void Ring(Simulation& sim, double inclination, double roll)
 {
     SimState& state = sim.state;
@@ -57,8 +52,8 @@ void DrawPlanet(Simulation& sim)
     state.SunY = 0;
     state.ViewDeg = Number(sim, txtView);
     state.ViewRad = Radians(state, state.ViewDeg);
-    ReferenceLines(sim);
-    SunAndSunlight(sim, PlaceOfSun(state.OrbitMode));
+    ReferenceLines(state, picture);
+    SunAndSunlight(sim, IsSunCentred(state.OrbitMode) ? SunPlace::Origin : SunPlace::Edge);
     MarkersBehind(sim, kFarNorthAxisDeg, std::sin(-state.ViewRad));
     BarePlanet(sim);
     Graticule(sim);

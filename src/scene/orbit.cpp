@@ -21,7 +21,10 @@ struct Sample
 
 using Samples = std::array<Sample, kSamples>;
 
-struct PairFields { FieldId first, second; };
+struct PairFields
+{
+    FieldId first, second;
+};
 
 PairFields FieldsOf(ShapePair pair)
 {
@@ -39,7 +42,8 @@ OrbitReading ReadShape(const Simulation& sim)
     case ShapePair::Apsis:
         return FromApsides(Number(sim, txtPeri), Number(sim, txtApo), planetRadius);
     case ShapePair::E:
-    case ShapePair::None: break;
+    case ShapePair::None:
+        break;
     }
     return FromEccentricity(Number(sim, txtPeriE), Number(sim, txtE), planetRadius);
 }

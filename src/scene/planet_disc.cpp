@@ -9,8 +9,6 @@ namespace selvane {
 
 namespace {
 
-bool SunIsAtTheOrigin(Scenario mode) { return mode == Scenario::ES2 || mode == Scenario::SunSynch; }
-
 // A sector's angles stay within a full turn in size, so the half that crosses the +x axis takes two
 // calls. An angle of 0 is not negative and draws no radius, so three quarters of a turn takes a
 // closed half besides.
@@ -21,7 +19,7 @@ void DayHalf(const SimState& state, DrawingSurface& picture)
     const auto sector = [&](double start, double end) {
         picture.Circle(state.PlanetX, state.PlanetY, state.PlanetPx, state.PlanetLight, start, end);
     };
-    if (!SunIsAtTheOrigin(state.OrbitMode)) {
+    if (!IsSunCentred(state.OrbitMode)) {
         sector(-0.5 * pi, -1.5 * pi);
     } else if (helio <= 0.5 * pi) {
         sector(-0.5 * pi - helio, -1.5 * pi - helio);

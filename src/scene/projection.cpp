@@ -22,8 +22,7 @@ double TwoBranchAngle(double across, double along)
 
 Projection::Projection(Turn turn)
     : turn_(turn), cosY_(std::cos(turn.aboutY)), sinY_(std::sin(turn.aboutY))
-{
-}
+{}
 
 Projected Projection::operator()(double radius, double inPlane) const
 {

@@ -9,7 +9,10 @@ namespace selvane {
 struct Simulation;
 struct SimState;
 
-struct Turn { double aboutY, aboutZ, aboutX; }; // applied in this order
+struct Turn
+{
+    double aboutY, aboutZ, aboutX;
+}; // applied in this order
 
 struct Projected
 {

@@ -13,22 +13,15 @@ namespace selvane {
 
 namespace {
 
-bool SunIsAtTheOrigin(Scenario mode) { return mode == Scenario::ES2 || mode == Scenario::SunSynch; }
-
-bool SunIsAtTheEdge(Scenario mode)
-{
-    return mode == Scenario::ES1 || mode == Scenario::Geo || mode == Scenario::Moly;
-}
-
 void PlaceBodies(Simulation& sim)
 {
     SimState& state = sim.state;
-    if (SunIsAtTheEdge(state.OrbitMode)) {
+    if (SatelliteFlies(state.OrbitMode)) {
         state.SunX = -sim.picSelvane.ScaleWidth / 2;
         state.SunY = 0;
         state.PlanetX = 0;
         state.PlanetY = 0;
-    } else if (SunIsAtTheOrigin(state.OrbitMode)) {
+    } else if (IsSunCentred(state.OrbitMode)) {
         state.SunX = 0;
         state.SunY = 0;
     }
@@ -36,8 +29,8 @@ void PlaceBodies(Simulation& sim)
 
 SunPlace PlaceOfSun(Scenario mode)
 {
-    if (SunIsAtTheEdge(mode)) return SunPlace::Edge;
-    return SunIsAtTheOrigin(mode) ? SunPlace::Origin : SunPlace::Nowhere;
+    if (SatelliteFlies(mode)) return SunPlace::Edge;
+    return IsSunCentred(mode) ? SunPlace::Origin : SunPlace::Nowhere;
 }
 
 void Ring(Simulation& sim, double inclination, double roll)
@@ -81,8 +74,8 @@ void ShowClock(Simulation& sim)
     const double hours = std::floor(time / 360);
     const double minutes = std::fmod(RoundHalfEven(time / 6), 60);
     const char* name = state.PlanetName == "Earth" ? "GMT" : "Planet Time";
-    SetCaption(sim, lblOutput(14), std::string(name) + " = " + TwoDigits(hours) + ":" +
-                                       TwoDigits(minutes));
+    SetCaption(sim, lblOutput(14),
+               std::string(name) + " = " + TwoDigits(hours) + ":" + TwoDigits(minutes));
 }
 
 } // namespace
@@ -97,7 +90,7 @@ void RotatingPlanet(Simulation& sim)
     PlaceBodies(sim);
 
     picture.Cls();
-    ReferenceLines(sim);
+    ReferenceLines(state, picture);
     SunAndSunlight(sim, PlaceOfSun(state.OrbitMode));
     MarkersBehind(sim, 90 - state.PlanetTilt, std::sin(state.ViewRad));
     BarePlanet(sim);

@@ -11,9 +11,15 @@ namespace {
 
 constexpr double kMarkerLength = 20; // display units
 
-bool Between(double value, double low, double high) { return value >= low && value <= high; }
+bool Between(double value, double low, double high)
+{
+    return value >= low && value <= high;
+}
 
-bool IsBackView(double viewDeg) { return Between(viewDeg, 90, 270) || Between(viewDeg, -270, -90); }
+bool IsBackView(double viewDeg)
+{
+    return Between(viewDeg, 90, 270) || Between(viewDeg, -270, -90);
+}
 
 bool IsFrontView(double viewDeg)
 {
@@ -44,10 +50,8 @@ void MarkerLetter(Simulation& sim, double x, double y, std::string_view letter)
 
 } // namespace
 
-void ReferenceLines(Simulation& sim)
+void ReferenceLines(const SimState& state, DrawingSurface& picture)
 {
-    const SimState& state = sim.state;
-    DrawingSurface& picture = sim.picSelvane;
     const Colour grey = RGB(95, 95, 95);
     picture.Line(picture.ScaleLeft, state.SunY, picture.ScaleWidth, state.SunY, grey);
     picture.Line(state.SunX, picture.ScaleTop, state.SunX, picture.ScaleHeight, grey);

@@ -1,0 +1,38 @@
+// The planet catalogue: five central bodies, chosen in the Planet menu.
+#pragma once
+
+#include "app/colour.h"
+#include "app/control_ids.h"
+
+#include <span>
+#include <string_view>
+
+namespace selvane {
+
+struct Simulation;
+
+struct PlanetRow
+{
+    MenuId item;
+    std::string_view name;
+    double radius; // km, mean
+    double mu;     // km^3/s^2, gravitational parameter
+    double tilt;   // degrees, axial tilt
+    double day;    // hours, length of the day
+    Colour light, dark;
+};
+
+std::span<const PlanetRow> PlanetTable();
+
+// Writes the row of that item into the planet fields and into the caption of lblPlanet; no more.
+void SelectPlanet(Simulation& sim, MenuId item);
+
+// A click on the checked planet only clears the check mark; on another one it selects the planet
+// and resets the orbit.
+void mnMercury_Click(Simulation& sim);
+void mnVenus_Click(Simulation& sim);
+void mnEarth_Click(Simulation& sim);
+void mnMars_Click(Simulation& sim);
+void mnJupiter_Click(Simulation& sim);
+
+} // namespace selvane

@@ -1,0 +1,122 @@
+#include "app/start_up.h"
+
+#include "app/help_pane.h"
+#include "app/planets.h"
+#include "app/simulation.h"
+
+#include <cmath>
+
+namespace selvane {
+
+namespace {
+
+constexpr double kPlanetRadiusPx = 50; // display units, on every planet
+
+struct BarValue
+{
+    ScrollBarId bar;
+    int value;
+};
+
+// The order counts: a pair pushes its partner, and the pair that moves last rules.
+constexpr BarValue kDefaultShape[] = {
+    {sclPeriE, 8},
+    {sclE, 0},
+    {sclSMinAxis, 80},
+    {sclSMajAxis, 80},
+};
+constexpr BarValue kDefaultPlaceAndView[] = {
+    {sclRot, 0}, {sclARGP, 270}, {sclView, 60}, {sclZoom, 15}, {sclPeri, 6}, {sclApo, 32},
+};
+
+void AssignDefaults(Simulation& sim)
+{
+    sim.state.RedrawEnabled = false;
+    for (const auto& [bar, value] : kDefaultShape) Assign(sim, bar, value);
+    Assign(sim, sclIncl, 60);
+    SetText(sim, txtIncl, "60"); // the one field that a reset rewrites whatever the bar does
+    for (const auto& [bar, value] : kDefaultPlaceAndView) {
+        Assign(sim, bar, value);
+        if (bar == sclARGP) sim.state.ArgpDeg = 270;
+    }
+    sim.state.RedrawEnabled = true;
+}
+
+void ResetScale(SimState& state)
+{
+    state.PlanetX = 0;
+    state.PlanetY = 0;
+    state.KmScale = kPlanetRadiusPx / state.PlanetRadius;
+    state.PlanetPx = state.PlanetRadius * state.KmScale;
+    state.Zoom = 1.2;
+}
+
+void ResetMotion(SimState& state)
+{
+    state.HelioDeg = 0;
+    state.HelioRad = 0;
+    state.SatDeg = 0;
+    state.SatDir = 1;
+    state.RAAN = 0;
+}
+
+} // namespace
+
+void Form_Load(Simulation& sim)
+{
+    SimState& state = sim.state;
+    state.HelpStep1 = 20;
+    state.HelpStep2 = 31;
+    SelectPlanet(sim, mnEarth);
+    state.Pi = 4 * std::atan(1.0);
+    state.PlanetRotDeg = 0;
+    Load(sim, sim.controls.txtHelp, "Help(20).rtf");
+    Show(sim, sclViewD, true);
+    Show(sim, txtViewD, true);
+    Show(sim, lblViewD, true);
+}
+
+void Form_Activate(Simulation& sim)
+{
+    SimState& state = sim.state;
+    state.OrbitMode = Scenario::Tutorial;
+    state.CurPic = &sim.picDemo;
+    state.CurrentDemo = SceneKey::Demo0;
+    sim.wiring.mnSatelliteTracking_Click(sim);
+    state.CurPic = &sim.picSelvane;
+    ResetOrbit(sim);
+}
+
+void Form_Unload(Simulation& sim)
+{
+    CloseWindow(sim, WindowId::About);
+    CloseWindow(sim, WindowId::UserGuide);
+}
+
+void ResetOrbit(Simulation& sim)
+{
+    SimState& state = sim.state;
+    state.OrbitMode = Scenario::ES1;
+    state.ShapeInput = ShapePair::Apsis;
+    ResetScale(state);
+    AssignDefaults(sim);
+    ResetMotion(state);
+
+    sim.picSelvane.Cls();
+    sim.wiring.RotatingPlanet(sim);
+    sim.wiring.DrawOrbit(sim);
+    state.SatDeg = 270; // a quarter turn before the in-plane zero
+
+    sim.wiring.btnPlay_Click(sim);
+    Enable(sim, tmrSunSynch, false);
+    Enable(sim, tmrES2, false);
+    Enable(sim, tmrSat, true);
+    TellTrueAnomaly(sim);
+}
+
+void TellTrueAnomaly(Simulation& sim)
+{
+    SetToolTip(sim, lblOutput(10), LabelTable()[Index(lblOutput(10))].toolTip);
+}
+
+} // namespace selvane

@@ -1,0 +1,30 @@
+#include "demos/scenario.h"
+
+#include "app/help_pane.h"
+
+namespace selvane {
+
+void CheckDemo(Simulation& sim, MenuId item)
+{
+    for (const MenuId demo : {mnES2, mnSunSynch, mnGeo, mnMoly}) Check(sim, demo, demo == item);
+}
+
+void AssignSettings(Simulation& sim, const DemoSettings& settings)
+{
+    sim.state.RedrawEnabled = false;
+    Assign(sim, sclZoom, settings.zoom);
+    Assign(sim, sclIncl, settings.inclination);
+    if (settings.inclinationText) SetText(sim, txtIncl, std::string(*settings.inclinationText));
+    Assign(sim, sclRot, settings.node);
+    Assign(sim, sclView, settings.view);
+    Assign(sim, sclPeri, settings.periapsis);
+    Assign(sim, sclApo, settings.apoapsis);
+    sim.state.RedrawEnabled = true;
+}
+
+void LoadDemoDocument(Simulation& sim, std::string_view document)
+{
+    Load(sim, sim.controls.txtHelp, document);
+}
+
+} // namespace selvane

@@ -1,0 +1,34 @@
+#include "demos/sun_synchronous.h"
+
+#include "app/start_up.h"
+#include "demos/sun_scene.h"
+
+namespace selvane {
+
+namespace {
+
+constexpr SunScene kSunSynchronous{Scenario::SunSynch,
+                                   mnSunSynch,
+                                   tmrSunSynch,
+                                   {10, 98, std::nullopt, 0, 0, 8, 8},
+                                   "SunSynch.rtf"};
+
+} // namespace
+
+void mnSunSynch_Click(Simulation& sim)
+{
+    if (IsChecked(sim, mnSunSynch)) {
+        Check(sim, mnSunSynch, false);
+        ResetOrbit(sim);
+    } else {
+        EnterSunScene(sim, kSunSynchronous);
+    }
+    sim.wiring.btnPlay_Click(sim);
+}
+
+void tmrSunSynch_Timer(Simulation& sim)
+{
+    AdvanceHalfADegree(sim);
+}
+
+} // namespace selvane
