@@ -1,3 +1,11 @@
+# Programs, tools and tests stand together, so that they are found without looking.
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+
+# Programs load at any address, as Debian's do.
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
 # One target carries the settings that every part of the house is compiled with.
 add_library(selvane_settings INTERFACE)
 target_compile_features(selvane_settings INTERFACE cxx_std_20)
@@ -5,18 +13,28 @@ target_compile_options(selvane_settings INTERFACE
     -Wall -Wextra -Wpedantic -Werror -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wunused -Wimplicit-fallthrough
     # The same result on every compiler: no fused multiply-add.
-    -ffp-contract=off)
+    -ffp-contract=off
+    # The same bytes wherever the source tree lies.
+    -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
 
 if(SELVANE_SANITIZE)
     target_compile_options(selvane_settings INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(selvane_settings INTERFACE -fsanitize=address,undefined)
+elseif(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT WIN32)
+    # What Debian builds its own programs with.
+    target_compile_options(selvane_settings INTERFACE
+        -fstack-protector-strong -D_FORTIFY_SOURCE=2)
+    target_link_options(selvane_settings INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
 endif()
 
 # The core's own mistakes are caught by SELVANE_ASSERT, which stays on in release.
 
 # headers_compile_alone(TARGET HEADER...): each header as a source file of its own.
 function(headers_compile_alone target)
+    if(NOT BUILD_TESTING)
+        return()
+    endif()
     set(units "")
     foreach(header IN LISTS ARGN)
         string(MAKE_C_IDENTIFIER "${header}" name)
