@@ -52,7 +52,7 @@ void DrawPlanet(Simulation& sim)
     state.SunY = 0;
     state.ViewDeg = Number(sim, txtView);
     state.ViewRad = Radians(state, state.ViewDeg);
-    ReferenceLines(state, picture);
+    ReferenceLines(state, sim.picSelvane);
     SunAndSunlight(sim, IsSunCentred(state.OrbitMode) ? SunPlace::Origin : SunPlace::Edge);
     MarkersBehind(sim, kFarNorthAxisDeg, std::sin(-state.ViewRad));
     BarePlanet(sim);
