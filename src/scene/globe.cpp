@@ -3,6 +3,7 @@
 #include "app/simulation.h"
 #include "scene/planet_disc.h"
 #include "scene/projection.h"
+#include "scene/ring.h"
 #include "scene/surroundings.h"
 
 #include <cmath>
@@ -14,7 +15,7 @@ namespace {
 // The north marker behind this globe keeps the Earth's direction on every planet.
 constexpr double kFarNorthAxisDeg = 66.6;
 
-void Ring(Simulation& sim, double inclination, double roll)
+void DrawRing(Simulation& sim, RememberedRing& remembered, double inclination, double roll)
 {
     SimState& state = sim.state;
     state.Incl = inclination;
@@ -22,12 +23,14 @@ void Ring(Simulation& sim, double inclination, double roll)
     state.PosRoll = roll;
     state.PosLon = Radians(state, state.Incl);
     state.PosRadius = state.PlanetPx;
-    for (state.SatDeg = 0; state.SatDeg <= 360; ++state.SatDeg) {
-        state.PosLat = Radians(state, state.SatDeg);
-        XYProjection(sim);
-        if (state.ProjZ > 0)
-            sim.picSelvane.PSet(state.ProjX + state.PlanetX, state.ProjY + state.PlanetY);
-    }
+    LoadNegativeView(sim);
+    const Ring& ring = remembered(
+        {state.PosRadius, {state.PosLon, state.PosRoll, state.ViewRad}},
+        [](const RingPlace& at) { return MakeRing(WholeDegrees(), at.radius, at.turn); });
+    PlotNearHalf(sim, ring);
+    state.PosLat = WholeDegrees().back().radians;
+    state.SatDeg = kRingPoints;
+    StoreProjected(state, ring.back());
 }
 
 // The equator and two meridians a quarter turn apart.
@@ -36,9 +39,10 @@ void Graticule(Simulation& sim)
     const double tilt = sim.state.PlanetTilt;
     const double quarter = sim.state.Pi / 2;
     sim.picSelvane.ForeColor = RGB(159, 159, 159);
-    Ring(sim, -tilt, 0);
-    Ring(sim, 90 - tilt, 0);
-    Ring(sim, 90 - tilt * std::cos(quarter), quarter);
+    thread_local RememberedRing equator, meridian, quarterTurnFromIt;
+    DrawRing(sim, equator, -tilt, 0);
+    DrawRing(sim, meridian, 90 - tilt, 0);
+    DrawRing(sim, quarterTurnFromIt, 90 - tilt * std::cos(quarter), quarter);
     sim.picSelvane.ForeColor = RGB(191, 191, 191);
 }
 

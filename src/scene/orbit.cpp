@@ -2,7 +2,7 @@
 
 #include "app/simulation.h"
 #include "scene/orbit_elements.h"
-#include "scene/projection.h"
+#include "scene/ring.h"
 
 #include <array>
 #include <cmath>
@@ -11,15 +11,25 @@ namespace selvane {
 
 namespace {
 
-constexpr int kSamples = 361; // a sample a degree; the last is the first once more
+// Where the orbit lies, apart from the planet's own place on the picture.
+struct OrbitPlace
+{
+    double semiMajor, eccentricity; // display units, none
+    double farthest;                // in-plane angle of the largest radius
+    Turn turn;
 
-struct Sample
+    bool operator==(const OrbitPlace&) const = default;
+};
+
+struct OrbitSample
 {
     double radius; // display units
     Projected point;
 };
 
-using Samples = std::array<Sample, kSamples>;
+// A sample a degree; the last is the first once more.
+using OrbitPath = std::array<OrbitSample, kRingPoints>;
+using RememberedPath = Remembered<OrbitPlace, OrbitPath>;
 
 struct PairFields
 {
@@ -95,25 +105,33 @@ void ReadOrientation(Simulation& sim)
     state.ARGP = Number(sim, txtARGP) + 90;
 }
 
-Samples Follow(const SimState& state)
+OrbitPath MakePath(const OrbitPlace& place)
 {
-    Samples samples{};
-    const Projection project({state.PosLon, state.PosRoll, state.ViewRad});
-    const double farthest = Radians(state, state.ARGP);
-    for (int degree = 0; degree < kSamples; ++degree) {
-        const double inPlane = Radians(state, degree);
-        Sample& sample = samples[static_cast<std::size_t>(degree)];
-        sample.radius = RadiusAt(state.SMajAxisPx, state.Ecc, inPlane - farthest);
-        sample.point = project(sample.radius, inPlane);
+    OrbitPath path{};
+    const Projection project(place.turn);
+    for (std::size_t at = 0; at < path.size(); ++at) {
+        const InPlaneAngle& angle = WholeDegrees()[at];
+        path[at].radius =
+            RadiusAt(place.semiMajor, place.eccentricity, angle.radians - place.farthest);
+        path[at].point = project(path[at].radius, angle.cosine, angle.sine);
     }
-    return samples;
+    return path;
 }
 
-void Plot(Simulation& sim, const Samples& samples)
+const OrbitPath& Follow(const SimState& state, RememberedPath& remembered)
+{
+    return remembered({state.SMajAxisPx,
+                       state.Ecc,
+                       Radians(state, state.ARGP),
+                       {state.PosLon, state.PosRoll, state.ViewRad}},
+                      MakePath);
+}
+
+void Plot(Simulation& sim, const OrbitPath& path)
 {
     const SimState& state = sim.state;
     DrawingSurface& picture = sim.picSelvane;
-    for (const auto& [radius, point] : samples) {
+    for (const auto& [radius, point] : path) {
         const bool inShadow =
             point.x > 0 && std::sqrt(point.y * point.y + point.z * point.z) < state.PlanetPx;
         picture.ForeColor = inShadow ? RGB(127, 127, 127) : kWhite;
@@ -135,10 +153,10 @@ bool ReferToTheSun(SimState& state)
 }
 
 // The shadow is a cylinder of the planet's radius behind the planet.
-void SumEclipse(SimState& state, const Samples& samples)
+void SumEclipse(SimState& state, const OrbitPath& path)
 {
     state.EclipseSec = 0;
-    for (const auto& [radius, point] : samples) {
+    for (const auto& [radius, point] : path) {
         const double rate = AngularRate(state.PlanetMu, radius / state.KmScale, state.SMajAxis);
         state.AngRate = rate * 180 / state.Pi;
         state.SecPerDeg = 1 / state.AngRate;
@@ -148,12 +166,12 @@ void SumEclipse(SimState& state, const Samples& samples)
 }
 
 // What the loops leave behind: the last sample is the projection's present point.
-void LeaveLastSample(SimState& state, const Sample& last)
+void LeaveLastSample(SimState& state, const OrbitSample& last)
 {
-    state.PosLat = Radians(state, kSamples - 1);
+    state.PosLat = WholeDegrees().back().radians;
     state.PosRadius = last.radius;
     StoreProjected(state, last.point);
-    state.SatDeg = kSamples;
+    state.SatDeg = kRingPoints;
 }
 
 } // namespace
@@ -164,11 +182,12 @@ void DrawOrbit(Simulation& sim)
     DeriveElements(sim);
     DerivePeriodAndScale(state);
     ReadOrientation(sim);
-    Samples samples = Follow(state);
-    Plot(sim, samples);
-    if (ReferToTheSun(state)) samples = Follow(state);
-    SumEclipse(state, samples);
-    LeaveLastSample(state, samples.back());
+    thread_local RememberedPath plotted, referred;
+    Plot(sim, Follow(state, plotted));
+    const OrbitPath& shadowed =
+        ReferToTheSun(state) ? Follow(state, referred) : Follow(state, plotted);
+    SumEclipse(state, shadowed);
+    LeaveLastSample(state, shadowed.back());
     sim.wiring.PrintValues(sim);
 }
 

@@ -9,10 +9,13 @@ namespace selvane {
 struct Simulation;
 struct SimState;
 
+// Turns about the three axes, applied in this order.
 struct Turn
 {
     double aboutY, aboutZ, aboutX;
-}; // applied in this order
+
+    bool operator==(const Turn&) const = default;
+};
 
 struct Projected
 {

@@ -5,6 +5,7 @@
 #include "scene/orbit.h"
 #include "scene/planet_disc.h"
 #include "scene/projection.h"
+#include "scene/ring.h"
 #include "scene/surroundings.h"
 
 #include <cmath>
@@ -33,30 +34,30 @@ SunPlace PlaceOfSun(Scenario mode)
     return IsSunCentred(mode) ? SunPlace::Origin : SunPlace::Nowhere;
 }
 
-void Ring(Simulation& sim, double inclination, double roll)
+void DrawRing(Simulation& sim, RememberedRing& remembered, double inclination, double roll)
 {
     SimState& state = sim.state;
     state.GlobeInclDeg = inclination;
     state.GlobePosLon = Radians(state, inclination);
     state.GlobePosRoll = roll;
-    const double step = state.Pi / 180;
-    for (state.GlobePosLat = 0; state.GlobePosLat <= 2 * state.Pi; state.GlobePosLat += step) {
-        XYProjection2(sim);
-        if (state.ProjZ > 0)
-            sim.picSelvane.PSet(state.ProjX + state.PlanetX, state.ProjY + state.PlanetY);
-    }
+    const Ring& ring =
+        remembered({state.PosRadius, {state.GlobePosLon, state.GlobePosRoll, state.GlobeViewRad}},
+                   [](const RingPlace& at) { return MakeRing(RunningSum(), at.radius, at.turn); });
+    PlotNearHalf(sim, ring);
+    StoreProjected(state, ring.back());
 }
 
 void Equator(Simulation& sim)
 {
     SimState& state = sim.state;
     state.GlobeViewRad = Radians(state, state.GlobeViewDeg);
-    Ring(sim, -state.PlanetTilt, 0);
+    thread_local RememberedRing ring;
+    DrawRing(sim, ring, -state.PlanetTilt, 0);
 }
 
-void Meridian(Simulation& sim, double roll)
+void Meridian(Simulation& sim, RememberedRing& ring, double roll)
 {
-    Ring(sim, 90 - sim.state.PlanetTilt * std::cos(roll), roll);
+    DrawRing(sim, ring, 90 - sim.state.PlanetTilt * std::cos(roll), roll);
 }
 
 // One correction only: a step of more than a turn leaves the rotation above 360, and nothing is
@@ -99,9 +100,10 @@ void RotatingPlanet(Simulation& sim)
     picture.ForeColor = RGB(127, 127, 127);
     Equator(sim);
     TurnPlanet(state);
-    Meridian(sim, Radians(state, state.PlanetRotDeg));
+    thread_local RememberedRing darkMeridian, brightMeridian;
+    Meridian(sim, darkMeridian, Radians(state, state.PlanetRotDeg));
     picture.ForeColor = RGB(191, 191, 191);
-    Meridian(sim, Radians(state, state.PlanetRotDeg) + state.Pi / 2);
+    Meridian(sim, brightMeridian, Radians(state, state.PlanetRotDeg) + state.Pi / 2);
     ShowClock(sim);
 
     state.SavedSatDeg = state.SatDeg;
