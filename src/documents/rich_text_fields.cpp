@@ -1,0 +1,133 @@
+#include "documents/rich_text_fields.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace selvane {
+
+namespace {
+
+bool IsBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n';
+}
+
+// Reads an instruction word by word. A word in quotes keeps its blanks; a switch is a backslash
+// and a letter; a backslash in quotes takes the next character as it is.
+class InstructionWords
+{
+public:
+    explicit InstructionWords(std::string_view text) : text_(text) {}
+
+    struct Word
+    {
+        std::string text;
+        bool isSwitch = false;
+    };
+
+    std::optional<Word> Next()
+    {
+        while (!text_.empty() && IsBlank(text_.front())) text_.remove_prefix(1);
+        if (text_.empty()) return std::nullopt;
+        for (const std::string_view quote : {"\"", "\u201C", "\u201D", "\u201E"})
+            if (text_.starts_with(quote)) return Word{Quoted(quote.size())};
+        return Bare();
+    }
+
+    // The word that follows a switch; empty if the next is a switch too, or none is left.
+    std::string Argument()
+    {
+        const std::string_view before = text_;
+        const auto word = Next();
+        if (word && !word->isSwitch) return word->text;
+        text_ = before;
+        return {};
+    }
+
+private:
+    std::string Quoted(std::size_t quoteLength)
+    {
+        text_.remove_prefix(quoteLength);
+        std::string word;
+        while (!text_.empty()) {
+            for (const std::string_view quote : {"\"", "\u201C", "\u201D"}) {
+                if (!text_.starts_with(quote)) continue;
+                text_.remove_prefix(quote.size());
+                return word;
+            }
+            if (text_.front() == '\\' && text_.size() > 1) text_.remove_prefix(1);
+            word += text_.front();
+            text_.remove_prefix(1);
+        }
+        return word;
+    }
+
+    Word Bare()
+    {
+        const auto end = std::find_if(text_.begin(), text_.end(), IsBlank);
+        const auto length = static_cast<std::size_t>(end - text_.begin());
+        Word word{std::string(text_.substr(0, length)), text_.front() == '\\' && length <= 2};
+        text_.remove_prefix(length);
+        return word;
+    }
+
+    std::string_view text_;
+};
+
+bool IsName(std::string_view word, std::string_view upperCaseName)
+{
+    return std::ranges::equal(word, upperCaseName, [](char a, char b) {
+        return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 'a' + 'A') : a) == b;
+    });
+}
+
+std::int32_t Number(std::string_view text)
+{
+    const bool hexadecimal = text.starts_with("0x") || text.starts_with("0X");
+    if (hexadecimal) text.remove_prefix(2);
+    std::int32_t number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number, hexadecimal ? 16 : 10);
+    return std::clamp(number, 0, 0xFFFF);
+}
+
+} // namespace
+
+std::string LinkTarget(std::string_view instruction)
+{
+    InstructionWords words(instruction);
+    const auto name = words.Next();
+    if (!name || !IsName(name->text, "HYPERLINK")) return {};
+    std::string target;
+    std::string part;
+    while (const auto word = words.Next()) {
+        if (!word->isSwitch) {
+            if (target.empty()) target = word->text;
+        } else if (word->text == "\\l") {
+            part = words.Argument();
+        } else if (word->text == "\\o" || word->text == "\\t") {
+            words.Argument();
+        }
+    }
+    return part.empty() ? target : target + '#' + part;
+}
+
+std::optional<SymbolField> ParseSymbolField(std::string_view instruction)
+{
+    InstructionWords words(instruction);
+    const auto name = words.Next();
+    if (!name || !IsName(name->text, "SYMBOL")) return std::nullopt;
+    SymbolField symbol;
+    while (const auto word = words.Next()) {
+        if (!word->isSwitch)
+            symbol.code = symbol.code == 0 ? Number(word->text) : symbol.code;
+        else if (word->text == "\\f")
+            symbol.font = words.Argument();
+        else if (word->text == "\\s")
+            words.Argument();
+        else if (word->text == "\\u")
+            symbol.isUnicode = true;
+    }
+    return symbol;
+}
+
+} // namespace selvane

@@ -1,0 +1,91 @@
+// Gathers paragraphs, cells and rows, in the order of the file, into blocks.
+#pragma once
+
+#include "documents/rich_text.h"
+
+#include <string_view>
+#include <vector>
+
+namespace selvane {
+
+inline constexpr std::size_t kMaxTableNesting = 8;
+
+// What a document may still grow by; once one is used up, reading stops (runs: formats merge).
+struct RichTextBudget
+{
+    std::size_t paragraphs = 200'000;
+    std::size_t textBytes = std::size_t{16} << 20;
+    std::size_t runs = 1'000'000;
+
+    bool IsSpent() const { return paragraphs == 0 || textBytes == 0; }
+};
+
+// How the cells of a row look; rich text tells it apart from what is in them.
+struct RowDefinition
+{
+    std::vector<CellFormat> cells; // at most 64
+    CellFormat next;               // told so far about the cell whose edge comes next
+    std::int32_t leftEdge = 0;
+    bool repeatedHeader = false;
+    bool bordered = false;
+
+    // Ends the definition of a cell; past the 64th ignored.
+    void AddCell(std::int32_t rightEdge);
+};
+
+// A stream of text: the body, or a text box. Table depth 0 is outside of tables; depths over
+// kMaxTableNesting count as that.
+class RichTextFlow
+{
+public:
+    explicit RichTextFlow(RichTextBudget& budget) : budget_(&budget) {}
+
+    void Append(std::string_view text, const CharacterFormat& format, std::int32_t link);
+    void AppendPicture(std::int32_t picture, const CharacterFormat& format, std::int32_t link);
+    bool HasPendingRuns() const { return !paragraph_.runs.empty(); }
+    std::size_t Depth() const { return levels_.size(); }
+
+    // Ends the pending paragraph, even an empty one, as one of a cell at this depth.
+    void EndParagraph(ParagraphFormat format, std::optional<ListItem> item, std::size_t depth);
+
+    // Ends the cell that the paragraphs ended so far at this depth (1 and up) are in.
+    void EndCell(std::size_t depth);
+
+    // Ends a row of the innermost table; does nothing outside of tables of at least this depth.
+    void EndRow(std::size_t depth);
+
+    // The definition for rows of depth 1, or of all deeper ones.
+    RowDefinition& Definition(bool nested) { return nested ? nestedDefinition_ : definition_; }
+
+    // Blocks that stand after the pending paragraph once it ends.
+    void AttachAfterParagraph(std::vector<Block> blocks);
+
+    // Closes all tables and gives everything up. A pending paragraph must be ended before.
+    std::vector<Block> Finish();
+
+private:
+    struct Level
+    {
+        Table table;
+        Row row;
+        std::vector<Block> cell;
+    };
+
+    bool NewRunIsNeeded(const CharacterFormat& format, std::int32_t link) const;
+    std::vector<Block>& Container() { return levels_.empty() ? blocks_ : levels_.back().cell; }
+    bool IsInUnfinishedRow() const;
+    void SetDepth(std::size_t depth);
+    void CloseTable();
+    static void FinishCell(Level& level);
+    static void FinishRow(Level& level, const RowDefinition& definition);
+
+    RichTextBudget* budget_;
+    Paragraph paragraph_;
+    std::vector<Block> attached_;
+    std::vector<Block> blocks_;
+    std::vector<Level> levels_;
+    RowDefinition definition_;
+    RowDefinition nestedDefinition_;
+};
+
+} // namespace selvane

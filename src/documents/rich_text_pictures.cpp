@@ -1,0 +1,121 @@
+#include "documents/rich_text_pictures.h"
+
+#include "documents/rich_text_tokens.h"
+
+#include <algorithm>
+
+namespace selvane {
+
+namespace {
+
+constexpr std::string_view kPngSignature = "\x89PNG\r\n\x1A\n";
+constexpr std::string_view kJpegSignature = "\xFF\xD8\xFF";
+constexpr std::int32_t kMaxGoal = 31680; // twips, 22 inches, the largest page there is
+constexpr std::int32_t kMaxScale = 1000; // per cent
+
+struct Size
+{
+    std::int64_t width = 0, height = 0; // pixels
+};
+
+std::uint8_t ByteAt(std::string_view data, std::size_t at)
+{
+    return static_cast<std::uint8_t>(data[at]);
+}
+
+// Big-endian; 0 past the end.
+std::int64_t Number(std::string_view data, std::size_t at, std::size_t length)
+{
+    std::int64_t value = 0;
+    for (std::size_t i = at; i < at + length; ++i)
+        value = value * 256 + (i < data.size() ? ByteAt(data, i) : 0);
+    return value;
+}
+
+// The signature is followed by the IHDR chunk: length, name, width, height.
+Size PngSize(std::string_view data)
+{
+    return {Number(data, 16, 4), Number(data, 20, 4)};
+}
+
+bool IsStartOfFrame(std::uint8_t marker)
+{
+    return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
+}
+
+// Walks the segments up to the frame header: marker, length, precision, height, width.
+Size JpegSize(std::string_view data)
+{
+    std::size_t at = 2;
+    while (at + 9 <= data.size()) {
+        if (ByteAt(data, at) != 0xFF) return {};
+        const std::uint8_t marker = ByteAt(data, at + 1);
+        if (IsStartOfFrame(marker)) return {Number(data, at + 7, 2), Number(data, at + 5, 2)};
+        const bool hasLength = marker != 0xFF && marker != 0x01 && (marker < 0xD0 || marker > 0xD8);
+        at += marker == 0xFF ? 1 : 2;
+        if (hasLength) at += static_cast<std::size_t>(Number(data, at, 2));
+    }
+    return {};
+}
+
+bool IsDecodable(Size size)
+{
+    return size.width > 0 && size.height > 0 && size.width <= kMaxPictureSide &&
+           size.height <= kMaxPictureSide && size.width * size.height <= kMaxPicturePixels;
+}
+
+std::int32_t ShownLength(std::int32_t goal, std::int32_t scale, std::int32_t pixels)
+{
+    const std::int32_t known = std::clamp(goal, 0, kMaxGoal);
+    const std::int32_t unscaled = known > 0 ? known : pixels * kTwipsPerPixel;
+    const std::int32_t percent = scale > 0 ? std::min(scale, kMaxScale) : 100;
+    return std::min(unscaled * percent / 100, kMaxGoal);
+}
+
+} // namespace
+
+void PictureReader::AddHex(std::string_view digits)
+{
+    for (const char c : digits) {
+        const int digit = HexDigit(c);
+        if (digit < 0) continue;
+        if (pendingDigit_ < 0) {
+            pendingDigit_ = digit;
+            continue;
+        }
+        const char byte = static_cast<char>(pendingDigit_ * 16 + digit);
+        pendingDigit_ = -1;
+        AddBytes({&byte, 1});
+    }
+}
+
+void PictureReader::AddBytes(std::string_view bytes)
+{
+    isTooBig_ = isTooBig_ || bytes.size() > kMaxPictureBytes - data_.size();
+    if (!isTooBig_) data_ += bytes;
+}
+
+Picture PictureReader::Finish(std::size_t bytesBefore)
+{
+    Picture picture;
+    Size size;
+    if (data_.starts_with(kPngSignature)) {
+        picture.kind = PictureKind::Png;
+        size = PngSize(data_);
+    } else if (data_.starts_with(kJpegSignature)) {
+        picture.kind = PictureKind::Jpeg;
+        size = JpegSize(data_);
+    }
+    if (!IsDecodable(size) || isTooBig_ || data_.size() > kMaxAllPictureBytes - bytesBefore) {
+        picture.kind = PictureKind::Placeholder;
+    } else {
+        picture.widthPixels = static_cast<std::int32_t>(size.width);
+        picture.heightPixels = static_cast<std::int32_t>(size.height);
+        picture.bytes = std::move(data_);
+    }
+    picture.widthTwips = ShownLength(goalWidth, scaleX, picture.widthPixels);
+    picture.heightTwips = ShownLength(goalHeight, scaleY, picture.heightPixels);
+    return picture;
+}
+
+} // namespace selvane
