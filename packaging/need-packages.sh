@@ -33,4 +33,4 @@ packages_to_run=(build-essential cmake ninja-build qt6-base-dev qt6-wayland
 
 # What its tests and its package need besides.
 packages_to_check=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format
-                   desktop-file-utils appstream lintian dpkg-dev file fakeroot)
+                   desktop-file-utils appstream lintian man-db dpkg-dev file)
