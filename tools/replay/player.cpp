@@ -1,0 +1,66 @@
+#include "replay/player.h"
+
+namespace selvane::replay {
+
+namespace {
+
+// What each action is to the program.
+struct Doer
+{
+    Simulation& sim;
+    ScriptedPlatform& platform;
+
+    Refusal operator()(const ScrollTo& act) const { return Scroll(sim, act.bar, act.value); }
+    Refusal operator()(const ArrowClick& act) const { return StepBar(sim, act.bar, act.direction); }
+    Refusal operator()(const PageClick& act) const { return PageBar(sim, act.bar, act.direction); }
+    Refusal operator()(const TypeText& act) const { return Type(sim, act.field, act.text); }
+    Refusal operator()(const ButtonClick& act) const { return Click(sim, act.button); }
+    Refusal operator()(const MenuChoice& act) const { return Choose(sim, act.item); }
+    Refusal operator()(const LabelClick& act) const { return ClickLabel(sim, act.label); }
+    Refusal operator()(const TimerTick& act) const { return Tick(sim, act.timer); }
+    Refusal operator()(const Activation& act) const { return ActivateByUser(sim, act.window); }
+    Refusal operator()(const Closing& act) const { return CloseByUser(sim, act.window); }
+    Refusal operator()(const TopicClick& act) const { return ClickTopic(sim, act.topic); }
+    Refusal operator()(const AboutClick& act) const { return ClickAbout(sim, act.control); }
+
+    Refusal operator()(const ClockSetting& act) const
+    {
+        platform.now = act.time;
+        return std::nullopt;
+    }
+
+    Refusal operator()(const DocumentChange& act) const
+    {
+        if (act.present)
+            platform.missing.erase(act.name);
+        else
+            platform.missing.insert(act.name);
+        return std::nullopt;
+    }
+};
+
+} // namespace
+
+Player::Player(const LocalTime& time, std::set<std::string, std::less<>> missing)
+    : picSelvane_(kPicSelvane.place.width, kPicSelvane.place.height),
+      picDemo_(kPicDemo.place.width, kPicDemo.place.height),
+      sim_(picSelvane_, picDemo_, platform_, TheWiring())
+{
+    platform_.now = time;
+    platform_.missing = std::move(missing);
+    Load(sim_);
+    FirstShowing(sim_);
+}
+
+Refusal Player::Do(const Action& action) { return std::visit(Doer{sim_, platform_}, action); }
+
+Dump Player::Take(Calls calls) const
+{
+    Dump dump = RecordsOf(sim_);
+    AddStrokes(dump, kPicSelvane.name, picSelvane_, calls);
+    AddStrokes(dump, kPicDemo.name, picDemo_, calls);
+    AddPlatform(dump, platform_);
+    return dump;
+}
+
+} // namespace selvane::replay
