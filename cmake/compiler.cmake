@@ -19,6 +19,11 @@ target_compile_options(selvane_settings INTERFACE
     # The same bytes wherever the source tree lies.
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
 
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # It takes the sum of a literal and a string for overlapping memory (mended in 13).
+    target_compile_options(selvane_settings INTERFACE -Wno-restrict)
+endif()
+
 if(SELVANE_SANITIZE)
     target_compile_options(selvane_settings INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
