@@ -19,11 +19,6 @@ target_compile_options(selvane_settings INTERFACE
     # The same bytes wherever the source tree lies.
     -ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${CMAKE_BINARY_DIR}=build)
 
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
-    # It takes the sum of a literal and a string for overlapping memory (mended in 13).
-    target_compile_options(selvane_settings INTERFACE -Wno-restrict)
-endif()
-
 if(SELVANE_SANITIZE)
     target_compile_options(selvane_settings INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -33,6 +28,10 @@ elseif(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT WIN32)
     target_compile_options(selvane_settings INTERFACE
         -fstack-protector-strong -D_FORTIFY_SOURCE=2)
     target_link_options(selvane_settings INTERFACE -Wl,-z,relro,-z,now -Wl,--as-needed)
+endif()
+
+if(SELVANE_FUZZ)
+    target_compile_options(selvane_settings INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 # The core's own mistakes are caught by SELVANE_ASSERT, which stays on in release.
