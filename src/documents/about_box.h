@@ -32,11 +32,10 @@ struct AboutRow
     Place place;           // pixels of the client area
     double points;         // font size; 0 for the icon
     Weight weight;
-    Underline underline; // underlined labels are links, in kLinkColour
+    Underline underline; // underlined labels are links
 };
 
 inline constexpr int kAboutClientWidth = 382, kAboutClientHeight = 237; // pixels
-inline constexpr Colour kLinkColour{0, 0, 255};
 
 // The etched rule between the links and the lower block: grey over white. Pixels.
 struct RuleLine

@@ -12,7 +12,7 @@ constexpr std::int32_t kLargestSize = 3276; // half-points
 constexpr std::int32_t kDefaultRaise = 6;   // half-points
 constexpr std::int32_t kMaxUnicodeSkip = 1000;
 constexpr std::int32_t kLastHeadingOutline = 5;
-constexpr std::size_t kMaxTabStops = 64;
+constexpr std::size_t kMaxTabStops = 32;
 
 bool IsHighSurrogate(char32_t unit)
 {

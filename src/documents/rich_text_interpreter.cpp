@@ -12,7 +12,7 @@ namespace selvane {
 namespace {
 
 constexpr std::size_t kMaxSavedGroups = 1000;
-constexpr std::size_t kMaxInstruction = 16'384; // bytes, as for labels and other short texts
+constexpr std::size_t kMaxInstruction = 16'384; // bytes of a field's instruction
 constexpr char32_t kBullet = 0x2022;
 
 bool IsPlain(char c)
@@ -20,9 +20,9 @@ bool IsPlain(char c)
     return c >= 0x20 && c < 0x7F;
 }
 
-void AppendShort(std::string& target, std::string_view text)
+void AppendShort(std::string& target, std::string_view text, std::size_t most)
 {
-    if (target.size() + text.size() <= kMaxInstruction) target += text;
+    if (target.size() + text.size() <= most) target += text;
 }
 
 } // namespace
@@ -289,25 +289,28 @@ void RichTextInterpreter::Emit(std::string_view text)
         headings_.AddName(text, state_.outline);
         break;
     case Destination::Label:
-        AppendShort(streams_.back().label, text);
+        AppendShort(streams_.back().label, text, kMaxLabelBytes);
         break;
     case Destination::LevelText:
-        if (ListLevel* level = lists_.CurrentLevel()) AppendShort(level->text, text);
+        if (ListLevel* level = lists_.CurrentLevel())
+            AppendShort(level->text, text, kMaxLabelBytes);
         break;
     case Destination::OldListBefore:
-        if (OldList* list = CurrentOldList()) AppendShort(list->before, text);
+        if (OldList* list = CurrentOldList()) AppendShort(list->before, text, kMaxLabelBytes);
         break;
     case Destination::OldListAfter:
-        if (OldList* list = CurrentOldList()) AppendShort(list->after, text);
+        if (OldList* list = CurrentOldList()) AppendShort(list->after, text, kMaxLabelBytes);
         break;
     case Destination::FieldInstruction:
-        if (state_.field < fields_.size()) AppendShort(fields_[state_.field].instruction, text);
+        if (state_.field < fields_.size())
+            AppendShort(fields_[state_.field].instruction, text, kMaxInstruction);
         break;
     case Destination::Nowhere:
     case Destination::ColourTable:
     case Destination::ListTable:
     case Destination::ListOverrideTable:
     case Destination::OldList:
+    case Destination::ShapeValue:
     case Destination::Picture:
         break;
     }

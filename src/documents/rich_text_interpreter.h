@@ -41,6 +41,7 @@ private:
         OldListBefore,
         OldListAfter,
         FieldInstruction,
+        ShapeValue,
         Picture
     };
 
@@ -216,6 +217,7 @@ private:
     void StartFieldInstruction(const Token& token, std::int32_t);
     void StartFieldResult(const Token& token, std::int32_t);
     void Container(const Token& token, std::int32_t);
+    void ShapeValue(const Token& token, std::int32_t);
     void BackOutside(const Token& token, std::int32_t);
     void StartTextBox(const Token& token, std::int32_t);
     void NestedTableProperties(const Token& token, std::int32_t);

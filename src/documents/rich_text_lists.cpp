@@ -178,6 +178,7 @@ std::string ListTables::Label(const List& list, const Override& override, std::s
     std::string label;
     for (const char c : Template(list.levels[level].text)) {
         const auto place = static_cast<unsigned char>(c);
+        if (label.size() >= kMaxLabelBytes) break;
         if (place >= kListLevels) {
             label += c;
         } else if (place < list.levels.size()) {

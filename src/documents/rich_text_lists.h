@@ -11,6 +11,7 @@
 namespace selvane {
 
 inline constexpr std::size_t kListLevels = 9;
+inline constexpr std::size_t kMaxLabelBytes = 256; // what a longer one has more is dropped
 
 enum class NumberStyle : std::uint8_t {
     Arabic,

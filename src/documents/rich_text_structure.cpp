@@ -12,6 +12,7 @@ namespace {
 constexpr std::size_t kMaxStreams = 9; // the body, and text boxes within text boxes
 constexpr std::size_t kMaxPictures = 65'536;
 constexpr std::size_t kMaxLinks = 65'536;
+constexpr std::size_t kMaxOldLists = 65'536;
 constexpr std::int32_t kLastListLevel = kListLevels - 1;
 
 std::string Trimmed(const std::string& text)
@@ -85,6 +86,17 @@ void RichTextInterpreter::Container(const Token& token, std::int32_t)
         Skip(token, 0);
     else if (Enter(Destination::Nowhere))
         state_.outside = outside;
+}
+
+// The value of a shape's property, which may be the picture that the shape shows.
+void RichTextInterpreter::ShapeValue(const Token& token, std::int32_t)
+{
+    const bool mayShow =
+        state_.destination == Destination::Nowhere && state_.outside == Destination::Body;
+    if (!mayShow)
+        Skip(token, 0);
+    else
+        Enter(Destination::ShapeValue);
 }
 
 void RichTextInterpreter::BackOutside(const Token&, std::int32_t)
@@ -244,7 +256,8 @@ void RichTextInterpreter::ItemLevel(const Token& token, std::int32_t)
 
 void RichTextInterpreter::StartOldList(const Token& token, std::int32_t)
 {
-    if (!IsInBody() || saved_.size() <= 1 || unsavedDepth_ > 0) return Skip(token, 0);
+    const bool isUsable = IsInBody() && unsavedDepth_ == 0 && oldLists_.size() < kMaxOldLists;
+    if (saved_.size() <= 1 || !isUsable) return Skip(token, 0);
     oldLists_.emplace_back();
     // The definition is of the paragraph, which the group around it belongs to.
     saved_.back().oldList = static_cast<std::int32_t>(oldLists_.size()) - 1;

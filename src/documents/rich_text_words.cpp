@@ -5,6 +5,31 @@
 
 namespace selvane {
 
+namespace {
+
+constexpr std::string_view kUnderlines[] = {
+    "ul",        "uld",        "uldash",    "uldashd",    "uldashdd", "uldb",
+    "ulhair",    "ulhwave",    "ulldash",   "ulth",       "ulthd",    "ulthdash",
+    "ulthdashd", "ulthdashdd", "ulthldash", "ululdbwave", "ulw",      "ulwave"};
+
+// Groups that no reader of the body sees.
+constexpr std::string_view kUnseen[] = {
+    "info",         "title",      "subject",      "author",     "manager",   "company",
+    "operator",     "category",   "keywords",     "comment",    "doccomm",   "hlinkbase",
+    "header",       "headerl",    "headerr",      "headerf",    "footer",    "footerl",
+    "footerr",      "footerf",    "footnote",     "ftnsep",     "ftnsepc",   "ftncn",
+    "aftnsep",      "aftnsepc",   "aftncn",       "annotation", "atnid",     "atnauthor",
+    "atntime",      "atndate",    "atnicn",       "atnref",     "atnparent", "atrfstart",
+    "atrfend",      "bkmkstart",  "bkmkend",      "xe",         "tc",        "tcn",
+    "rxe",          "nonshppict", "nonesttables", "shprslt",    "sn",        "picprop",
+    "blipuid",      "objdata",    "objclass",     "objname",    "objalias",  "objsect",
+    "falt",         "panose",     "fname",        "fontemb",    "listname",  "liststylename",
+    "levelnumbers", "pnseclvl",   "filetbl",      "revtbl",     "rsidtbl",   "generator",
+    "template",     "nextfile",   "private",      "background", "datafield", "formfield",
+    "userprops",    "keycode"};
+
+} // namespace
+
 const RichTextInterpreter::WordRow* RichTextInterpreter::FindWord(std::string_view name)
 {
     using I = RichTextInterpreter;
@@ -58,24 +83,6 @@ const RichTextInterpreter::WordRow* RichTextInterpreter::FindWord(std::string_vi
         {"striked", &I::Toggle<&Character::strike>},
         {"caps", &I::Toggle<&Character::allCapitals>},
         {"scaps", &I::Toggle<&Character::smallCapitals>},
-        {"ul", &I::Toggle<&Character::underline>},
-        {"uld", &I::Toggle<&Character::underline>},
-        {"uldash", &I::Toggle<&Character::underline>},
-        {"uldashd", &I::Toggle<&Character::underline>},
-        {"uldashdd", &I::Toggle<&Character::underline>},
-        {"uldb", &I::Toggle<&Character::underline>},
-        {"ulhair", &I::Toggle<&Character::underline>},
-        {"ulhwave", &I::Toggle<&Character::underline>},
-        {"ulldash", &I::Toggle<&Character::underline>},
-        {"ulth", &I::Toggle<&Character::underline>},
-        {"ulthd", &I::Toggle<&Character::underline>},
-        {"ulthdash", &I::Toggle<&Character::underline>},
-        {"ulthdashd", &I::Toggle<&Character::underline>},
-        {"ulthdashdd", &I::Toggle<&Character::underline>},
-        {"ulthldash", &I::Toggle<&Character::underline>},
-        {"ululdbwave", &I::Toggle<&Character::underline>},
-        {"ulw", &I::Toggle<&Character::underline>},
-        {"ulwave", &I::Toggle<&Character::underline>},
         {"ulnone", &I::NoUnderline},
         {"super", &I::Position, at(VerticalPosition::Superscript)},
         {"sub", &I::Position, at(VerticalPosition::Subscript)},
@@ -203,6 +210,8 @@ const RichTextInterpreter::WordRow* RichTextInterpreter::FindWord(std::string_vi
         {"shp", &I::Container, 0, kDestination},
         {"shpgrp", &I::Container, 0, kDestination},
         {"shpinst", &I::Container, 0, kDestination},
+        {"sp", &I::Transparent},
+        {"sv", &I::ShapeValue},
         {"shptxt", &I::StartTextBox, 0, kDestination},
         {"do", &I::Container, 0, kDestination},
         {"dptxbxtext", &I::StartTextBox, 0, kDestination},
@@ -214,91 +223,17 @@ const RichTextInterpreter::WordRow* RichTextInterpreter::FindWord(std::string_vi
         {"colortbl", &I::HeaderTable, at(Destination::ColourTable), kDestination},
         {"stylesheet", &I::HeaderTable, at(Destination::StyleSheet), kDestination},
 
-        // what no reader of the body sees
-        {"info", &I::Skip},
-        {"title", &I::Skip},
-        {"subject", &I::Skip},
-        {"author", &I::Skip},
-        {"manager", &I::Skip},
-        {"company", &I::Skip},
-        {"operator", &I::Skip},
-        {"category", &I::Skip},
-        {"keywords", &I::Skip},
-        {"comment", &I::Skip},
-        {"doccomm", &I::Skip},
-        {"hlinkbase", &I::Skip},
-        {"header", &I::Skip},
-        {"headerl", &I::Skip},
-        {"headerr", &I::Skip},
-        {"headerf", &I::Skip},
-        {"footer", &I::Skip},
-        {"footerl", &I::Skip},
-        {"footerr", &I::Skip},
-        {"footerf", &I::Skip},
-        {"footnote", &I::Skip},
-        {"ftnsep", &I::Skip},
-        {"ftnsepc", &I::Skip},
-        {"ftncn", &I::Skip},
-        {"aftnsep", &I::Skip},
-        {"aftnsepc", &I::Skip},
-        {"aftncn", &I::Skip},
-        {"annotation", &I::Skip},
-        {"atnid", &I::Skip},
-        {"atnauthor", &I::Skip},
-        {"atntime", &I::Skip},
-        {"atndate", &I::Skip},
-        {"atnicn", &I::Skip},
-        {"atnref", &I::Skip},
-        {"atnparent", &I::Skip},
-        {"atrfstart", &I::Skip},
-        {"atrfend", &I::Skip},
-        {"bkmkstart", &I::Skip},
-        {"bkmkend", &I::Skip},
-        {"xe", &I::Skip},
-        {"tc", &I::Skip},
-        {"tcn", &I::Skip},
-        {"rxe", &I::Skip},
-        {"nonshppict", &I::Skip},
-        {"nonesttables", &I::Skip},
-        {"shprslt", &I::Skip},
-        {"sp", &I::Skip},
-        {"sn", &I::Skip},
-        {"sv", &I::Skip},
-        {"picprop", &I::Skip},
-        {"blipuid", &I::Skip},
-        {"objdata", &I::Skip},
-        {"objclass", &I::Skip},
-        {"objname", &I::Skip},
-        {"objalias", &I::Skip},
-        {"objsect", &I::Skip},
-        {"falt", &I::Skip},
-        {"panose", &I::Skip},
-        {"fname", &I::Skip},
-        {"fontemb", &I::Skip},
-        {"listname", &I::Skip},
-        {"liststylename", &I::Skip},
-        {"levelnumbers", &I::Skip},
-        {"pnseclvl", &I::Skip},
-        {"filetbl", &I::Skip},
-        {"revtbl", &I::Skip},
-        {"rsidtbl", &I::Skip},
-        {"generator", &I::Skip},
-        {"template", &I::Skip},
-        {"nextfile", &I::Skip},
-        {"private", &I::Skip},
-        {"background", &I::Skip},
-        {"datafield", &I::Skip},
-        {"formfield", &I::Skip},
-        {"userprops", &I::Skip},
-        {"keycode", &I::Skip},
     };
     static const auto kIndex = [] {
-        std::unordered_map<std::string_view, const WordRow*> index;
-        for (const WordRow& row : kRows) index.emplace(row.name, &row);
+        std::unordered_map<std::string_view, WordRow> index;
+        for (const WordRow& row : kRows) index.emplace(row.name, row);
+        for (const auto word : kUnderlines)
+            index.emplace(word, WordRow{word, &I::Toggle<&Character::underline>});
+        for (const auto word : kUnseen) index.emplace(word, WordRow{word, &I::Skip});
         return index;
     }();
     const auto found = kIndex.find(name);
-    return found == kIndex.end() ? nullptr : found->second;
+    return found == kIndex.end() ? nullptr : &found->second;
 }
 
 } // namespace selvane
