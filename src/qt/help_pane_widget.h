@@ -1,0 +1,54 @@
+// HelpPaneWidget: shows a rich-text pane. Read only; text can be selected by mouse and, with
+// Shift, by keys; Ctrl with plus, minus, 0 or the wheel changes the size of the text.
+#pragma once
+
+#include <QTextBrowser>
+#include <memory>
+
+namespace selvane {
+
+struct HelpPane;
+struct RichText;
+
+class HelpPaneWidget : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit HelpPaneWidget(QWidget* parent = nullptr);
+
+    // Makes the widget match the record. A new load starts at the top; the same one, shown again,
+    // touches nothing.
+    void ShowPane(const HelpPane& pane);
+
+    int ZoomPercent() const { return zoomPercent_; } // 50 to 300
+
+signals:
+    void documentLinkClicked(const QString& name); // bare name of a document of the folder
+    void webLinkClicked(const QString& address);   // http or https
+
+public slots:
+    // Nothing outside the document is ever fetched.
+    QVariant loadResource(int type, const QUrl& name) override;
+
+protected:
+    bool event(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+
+private:
+    void MakeDocument();
+    void SetZoom(int percent);
+    bool ZoomByKey(int key);
+    bool ScrollByKey(int key);
+    bool SelectByKey(const QKeyEvent& event);
+    void Follow(const QUrl& link);
+    void PaintOutline();
+
+    std::shared_ptr<const RichText> text_;
+    unsigned loads_ = 0;
+    int zoomPercent_ = 100;
+    int wheel_ = 0; // eighths of a degree not yet acted on
+};
+
+} // namespace selvane

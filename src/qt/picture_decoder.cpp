@@ -1,0 +1,60 @@
+#include "qt/picture_decoder.h"
+
+#include "documents/rich_text.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QPainter>
+#include <algorithm>
+
+namespace selvane {
+
+namespace {
+
+constexpr int kHighest = 4096, kMostScreenDensity = 3; // pixels; image dots per shown pixel
+constexpr qint64 kMostPixels = 32'000'000;             // of one picture's data
+
+} // namespace
+
+QSize ShownSize(const Picture& picture, double zoom, int room)
+{
+    QSizeF size(picture.widthTwips, picture.heightTwips);
+    size /= kTwipsPerPixel;
+    if (size.isEmpty()) size = QSizeF(picture.widthPixels, picture.heightPixels);
+    if (size.isEmpty()) size = QSizeF(32, 32);
+    size *= zoom;
+    const QSizeF most(std::max(room, 1), kHighest);
+    if (size.width() > most.width() || size.height() > most.height())
+        size.scale(most, Qt::KeepAspectRatio);
+    return size.toSize().expandedTo({1, 1});
+}
+
+QImage PictureDecoder::Decode(const Picture& picture, QSize shown)
+{
+    if (picture.kind == PictureKind::Placeholder) return {};
+    QByteArray bytes =
+        QByteArray::fromRawData(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, picture.kind == PictureKind::Png ? "png" : "jpeg");
+    reader.setAutoDetectImageFormat(false);
+    const QSize whole = reader.size();
+    if (!whole.isValid() || qint64{whole.width()} * whole.height() > kMostPixels) return {};
+    const QSize wanted = whole.boundedTo(shown * kMostScreenDensity);
+    const qint64 pixels = qint64{wanted.width()} * wanted.height();
+    if (pixels > pixelsLeft_) return {};
+    pixelsLeft_ -= pixels;
+    if (wanted != whole) reader.setScaledSize(wanted);
+    return reader.read();
+}
+
+QImage EmptyFrame(QSize size)
+{
+    QImage frame(size, QImage::Format_ARGB32_Premultiplied);
+    frame.fill(QColor(240, 240, 240));
+    QPainter painter(&frame);
+    painter.setPen(QColor(160, 160, 160));
+    painter.drawRect(frame.rect().adjusted(0, 0, -1, -1));
+    return frame;
+}
+
+} // namespace selvane
