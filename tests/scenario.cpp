@@ -1,0 +1,96 @@
+#include "scenario.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <cmath>
+#include <fstream>
+
+namespace selvane {
+
+namespace {
+
+std::optional<double> ParseNumber(std::string_view text)
+{
+    double number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (error != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+std::optional<Expectation> ParseExpectation(std::string_view line)
+{
+    const std::string_view verb = replay::TakeWord(line);
+    const std::size_t equals = line.find('=');
+    if ((verb != "expect" && verb != "near") || equals == std::string_view::npos)
+        return std::nullopt;
+    Expectation expectation{std::string(line.substr(0, equals)),
+                            std::string(line.substr(equals + 1)), std::nullopt, std::nullopt};
+    if (verb == "expect") return expectation;
+    std::string_view numbers = line.substr(equals + 1);
+    expectation.number = ParseNumber(replay::TakeWord(numbers));
+    expectation.within = ParseNumber(replay::TakeWord(numbers));
+    if (!expectation.number || !expectation.within) return std::nullopt;
+    return expectation;
+}
+
+bool Holds(const Expectation& expectation, const std::string& actual)
+{
+    if (!expectation.number) return actual == expectation.value;
+    const std::optional<double> number = ParseNumber(actual);
+    return number && std::fabs(*number - *expectation.number) <= *expectation.within;
+}
+
+} // namespace
+
+std::vector<std::filesystem::path> ScenarioFiles()
+{
+    std::vector<std::filesystem::path> files;
+    for (const auto& entry : std::filesystem::directory_iterator(SELVANE_SCENARIOS))
+        if (entry.path().extension() == ".scn") files.push_back(entry.path());
+    std::ranges::sort(files);
+    return files;
+}
+
+Scenario ReadScenario(const std::filesystem::path& file)
+{
+    Scenario scenario{file, {}};
+    std::ifstream input(file, std::ios::binary);
+    int number = 0;
+    for (std::string line; std::getline(input, line);) {
+        ++number;
+        if (number == 1 && !line.starts_with("# "))
+            ADD_FAILURE_AT(file.c_str(), number) << "the first line must say what the user sees";
+        if (replay::IsRemark(line)) continue;
+        if (const auto action = replay::ParseAction(line))
+            scenario.lines.push_back({number, *action});
+        else if (const auto expectation = ParseExpectation(line))
+            scenario.lines.push_back({number, *expectation});
+        else
+            ADD_FAILURE_AT(file.c_str(), number) << "neither action nor expectation: " << line;
+    }
+    if (scenario.lines.empty()) ADD_FAILURE_AT(file.c_str(), 1) << "an empty scenario";
+    return scenario;
+}
+
+void Check(const Scenario& scenario, const ScenarioLine& line, const Expectation& expectation,
+           const replay::Dump& dump)
+{
+    const auto entry = dump.find(expectation.key);
+    const std::string actual = entry == dump.end() ? "(no such key)" : entry->second;
+    if (entry != dump.end() && Holds(expectation, actual)) return;
+    ADD_FAILURE_AT(scenario.file.c_str(), line.number)
+        << expectation.key << "\n  expected: " << expectation.value << "\n  actual:   " << actual;
+}
+
+std::string TestName(const std::filesystem::path& file)
+{
+    std::string name = file.stem().string();
+    std::ranges::replace_if(
+        name, [](char letter) { return !std::isalnum(static_cast<unsigned char>(letter)); }, '_');
+    return name;
+}
+
+} // namespace selvane
