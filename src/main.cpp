@@ -1,0 +1,18 @@
+// Selvane: the entry point.
+#include "qt/appearance.h"
+#include "qt/qt_platform.h"
+#include "qt/shell.h"
+
+#include <QApplication>
+
+int main(int argc, char** argv)
+{
+    selvane::PrepareApplication();
+    QApplication application(argc, argv);
+    selvane::SetUpApplication(application);
+    selvane::ChooseWorkingFolder();
+    selvane::QtPlatform platform;
+    selvane::Shell shell(platform);
+    shell.Show();
+    return QApplication::exec();
+}

@@ -1,0 +1,81 @@
+#include "qt/appearance.h"
+
+#include "qt/application_icon.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyle>
+#include <QStyleFactory>
+#include <QToolTip>
+
+#include <clocale>
+
+namespace selvane {
+
+namespace {
+
+// Every colour is named, so that a dark desktop changes none of them.
+QPalette LightPalette()
+{
+    const QColor face = ColourOf(kWindowColour);
+    const QColor ink = Qt::black;
+    const QColor faded(120, 120, 120);
+    QPalette palette(face);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                            QPalette::ToolTipText})
+        palette.setColor(role, ink);
+    palette.setColor(QPalette::Window, face);
+    palette.setColor(QPalette::Button, QColor(239, 239, 239));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(245, 245, 245));
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
+    palette.setColor(QPalette::Highlight, kFocusColour);
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, kLinkColour);
+    palette.setColor(QPalette::LinkVisited, kLinkColour);
+    palette.setColor(QPalette::PlaceholderText, faded);
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, faded);
+    return palette;
+}
+
+} // namespace
+
+void PrepareApplication()
+{
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
+        Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
+    // The desktop's theme would bring its own palette, fonts and messages.
+    QApplication::setDesktopSettingsAware(false);
+}
+
+void SetUpApplication(QApplication& application)
+{
+    std::setlocale(LC_NUMERIC, "C");
+    application.setApplicationName("selvane");
+    application.setApplicationDisplayName(TextOf(kApplicationTitle));
+    application.setDesktopFileName("org.example.selvane");
+    application.setLayoutDirection(Qt::LeftToRight);
+    application.setStyle(QStyleFactory::create("Fusion"));
+    application.setPalette(LightPalette());
+    application.setFont(FontOf(kTextPoints));
+    application.setWindowIcon(ApplicationIcon());
+    QToolTip::setPalette(LightPalette());
+    QToolTip::setFont(FontOf(kTextPoints));
+}
+
+QFont FontOf(double points, Weight weight, Underline underline)
+{
+    QFont font("Carlito");
+    font.setPixelSize(qRound(points * 4 / 3));
+    font.setBold(weight == Weight::Bold);
+    font.setUnderline(underline == Underline::Yes);
+    return font;
+}
+
+QString TextOf(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace selvane

@@ -1,0 +1,231 @@
+#include "qt/control_widgets.h"
+
+#include "program/program.h"
+#include "qt/appearance.h"
+#include "qt/dispatch.h"
+#include "qt/face_button.h"
+#include "qt/help_pane_widget.h"
+#include "qt/labels.h"
+#include "qt/menus.h"
+#include "qt/number_line.h"
+#include "qt/picture_widget.h"
+#include "qt/value_bar.h"
+
+#include <QFrame>
+
+namespace selvane {
+
+namespace {
+
+constexpr std::string_view kReadingOrder[] = {
+    "sclUD",       "sclLR",       "Command1",    "sclView",           "txtView",
+    "btnReverse",  "btnPause",    "btnPlay",     "btnAdvance",        "sclZoom",
+    "txtZoom",     "sclPeri",     "txtPeri",     "sclApo",            "txtApo",
+    "btnApsisCalculate",          "sclPeriE",    "txtPeriE",          "sclE",
+    "txtE",        "btnECalculate",              "sclSMinAxis",       "txtSMinAxis",
+    "sclSMajAxis", "txtSMajAxis", "btnAxisCalculate",                 "sclIncl",
+    "txtIncl",     "sclRot",      "txtRot",      "sclARGP",           "txtARGP",
+    "sclViewD",    "txtViewD",    "btnBack2",    "btnNext2",          "sclRange",
+    "txtRange",    "txtHelp",     "lblReturnToTutorial"};
+
+class ControlBuilder
+{
+public:
+    ControlBuilder(QWidget& panel, Dispatch& door) : panel_(panel), door_(door) {}
+
+    // From the bottom of the pile to its top.
+    void Build(const Surfaces& surfaces)
+    {
+        for (const FrameRow& row : FrameTable()) AddFrame(row);
+        AddPictures(surfaces);
+        for (const LabelRow& row : LabelTable()) AddLabel(row);
+        AddMarker();
+        for (const ScrollBarRow& row : ScrollBarTable()) AddBar(row);
+        for (const FieldRow& row : FieldTable()) AddField(row);
+        for (const ButtonRow& row : ButtonTable()) AddButton(row);
+        AddHelpPane();
+        TellCovered();
+        OrderTabs();
+    }
+
+    ControlWidgets widgets;
+
+private:
+    template <typename Row> void Place(QWidget& widget, const Row& row)
+    {
+        widget.setObjectName(TextOf(row.name));
+        widget.setGeometry(RectOf(row.place));
+    }
+
+    void AddFrame(const FrameRow& row)
+    {
+        auto* const frame = new QFrame(&panel_);
+        Place(*frame, row);
+        frame->setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
+        QPalette colours;
+        colours.setColor(QPalette::WindowText, kFrameColour);
+        if (row.fill) colours.setColor(QPalette::Window, ColourOf(*row.fill));
+        frame->setPalette(colours);
+        frame->setAutoFillBackground(row.fill.has_value());
+    }
+
+    void AddPictures(const Surfaces& surfaces)
+    {
+        widgets.picSelvane = new PictureWidget(surfaces.picSelvane, kPicSelvane, &panel_);
+        widgets.picSelvane->setAccessibleName("Orbit");
+        widgets.picDemo = new PictureWidget(surfaces.picDemo, kPicDemo, &panel_);
+        widgets.picDemo->setAccessibleName("Tutorial picture");
+    }
+
+    void AddLabel(const LabelRow& row)
+    {
+        LabelWidget& label = widgets.labels[Index(row.id)];
+        if (door_.Sim().wiring.label[Index(row.id)]) {
+            label.link = new LinkLabel(TextOf(row.caption), row.place, &panel_);
+            QObject::connect(label.link, &QAbstractButton::clicked, &door_,
+                             [door = &door_, id = row.id] {
+                                 door->Act(WindowId::Main,
+                                           [id](Simulation& sim) { ClickLabel(sim, id); });
+                             });
+        } else {
+            QWidget& parent = row.id == lblPlanet ? *widgets.picSelvane : panel_;
+            label.caption = new CaptionLabel(row, &parent);
+        }
+        label.Widget()->setObjectName(TextOf(row.name));
+        label.Widget()->setToolTip(TextOf(row.toolTip));
+    }
+
+    void AddMarker()
+    {
+        widgets.lblSat = new QWidget(widgets.picSelvane);
+        widgets.lblSat->setObjectName("lblSat");
+        widgets.lblSat->setAccessibleName("Satellite");
+        widgets.lblSat->resize(kMarkerSize, kMarkerSize);
+        widgets.lblSat->setAutoFillBackground(true);
+        widgets.lblSat->hide();
+    }
+
+    void AddBar(const ScrollBarRow& row)
+    {
+        const auto direction =
+            row.direction == Direction::Horizontal ? Qt::Horizontal : Qt::Vertical;
+        auto* const bar = new ValueBar(direction, &panel_);
+        widgets.bars[Index(row.id)] = bar;
+        Place(*bar, row);
+        bar->setRange(row.min, row.max);
+        bar->setSingleStep(row.smallChange);
+        bar->setPageStep(row.largeChange);
+        bar->setValue(row.value);
+        const LabelRow& caption = LabelTable()[Index(row.caption)];
+        bar->setAccessibleName(SpokenNameOf(row, caption.caption));
+        bar->setAccessibleDescription(TextOf(caption.toolTip));
+        QObject::connect(bar, &QAbstractSlider::valueChanged, &door_,
+                         [door = &door_, id = row.id](int value) {
+                             door->Act(WindowId::Main, [id, value](Simulation& sim) {
+                                 Scroll(sim, id, value);
+                             });
+                         });
+    }
+
+    void AddField(const FieldRow& row)
+    {
+        auto* const field = new NumberLine(&panel_);
+        widgets.fields[Index(row.id)] = field;
+        Place(*field, row);
+        field->setText(TextOf(row.text));
+        const ScrollBarRow& bar = ScrollBarTable()[Index(row.bar)];
+        field->setAccessibleName(SpokenNameOf(bar, LabelTable()[Index(bar.caption)].caption));
+        widgets.labels[Index(bar.caption)].caption->setBuddy(field);
+        QObject::connect(field, &QLineEdit::textEdited, &door_,
+                         [door = &door_, id = row.id](const QString& text) {
+                             door->Act(WindowId::Main, [id, typed = text.toStdString()](
+                                                           Simulation& sim) {
+                                 Type(sim, id, typed);
+                             });
+                         });
+    }
+
+    void AddButton(const ButtonRow& row)
+    {
+        auto* const button = new FaceButton(row, &panel_);
+        widgets.buttons[Index(row.id)] = button;
+        Place(*button, row);
+        button->setVisible(row.visible);
+        QObject::connect(button, &QAbstractButton::clicked, &door_, [door = &door_, id = row.id] {
+            door->Act(WindowId::Main, [id](Simulation& sim) { Click(sim, id); });
+        });
+    }
+
+    void AddHelpPane()
+    {
+        auto* const pane = new HelpPaneWidget(&panel_);
+        widgets.txtHelp = pane;
+        pane->setObjectName("txtHelp");
+        pane->setGeometry(RectOf(kHelpPane));
+        pane->setAccessibleName("Explanation");
+        QObject::connect(pane, &HelpPaneWidget::documentLinkClicked, &door_,
+                         [door = &door_](const QString& name) {
+                             door->Act(WindowId::Main, [to = name.toStdString()](Simulation& sim) {
+                                 FollowDocumentLink(sim, WindowId::Main, to);
+                             });
+                         });
+        QObject::connect(pane, &HelpPaneWidget::webLinkClicked, &door_,
+                         [door = &door_](const QString& link) {
+                             door->Act(WindowId::Main, [to = link.toStdString()](Simulation& sim) {
+                                 sim.platform.OpenLink(to);
+                             });
+                         });
+    }
+
+    void TellCovered()
+    {
+        const QRect picture = widgets.picSelvane->geometry();
+        QRegion covered;
+        for (const QWidget* over :
+             {static_cast<QWidget*>(widgets.bars[Index(sclLR)]),
+              static_cast<QWidget*>(widgets.bars[Index(sclUD)]),
+              static_cast<QWidget*>(widgets.buttons[Index(Command1)])})
+            covered += over->geometry().translated(-picture.topLeft());
+        widgets.picSelvane->SetCovered(covered);
+    }
+
+    void OrderTabs()
+    {
+        QWidget* before = nullptr;
+        for (const std::string_view name : kReadingOrder) {
+            auto* const next = panel_.findChild<QWidget*>(TextOf(name));
+            if (before) QWidget::setTabOrder(before, next);
+            before = next;
+        }
+    }
+
+    QWidget& panel_;
+    Dispatch& door_;
+};
+
+} // namespace
+
+QWidget* LabelWidget::Widget() const
+{
+    return link ? static_cast<QWidget*>(link) : static_cast<QWidget*>(caption);
+}
+
+ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
+                             const Surfaces& surfaces)
+{
+    ControlBuilder builder(panel, door);
+    builder.Build(surfaces);
+    builder.widgets.menu = BuildMenus(menuBar, door);
+    return builder.widgets;
+}
+
+std::span<const std::string_view> ReadingOrder() { return kReadingOrder; }
+
+QString SpokenNameOf(const ScrollBarRow& row, std::string_view caption)
+{
+    if (row.id == sclLR) return "Pan left and right";
+    if (row.id == sclUD) return "Pan up and down";
+    return TextOf(caption);
+}
+
+} // namespace selvane

@@ -1,0 +1,70 @@
+// The main window's widgets: one for each record, at its place in the control table and named like
+// its record.
+#pragma once
+
+#include "app/control_table.h"
+#include "app/simulation.h"
+
+#include <QString>
+
+#include <array>
+#include <span>
+#include <string_view>
+
+class QAction;
+class QLabel;
+class QMenuBar;
+class QWidget;
+
+namespace selvane {
+
+class CaptionLabel;
+class Dispatch;
+class FaceButton;
+class HelpPaneWidget;
+class LinkLabel;
+class NumberLine;
+class PictureSurface;
+class PictureWidget;
+class ValueBar;
+
+// A label is one or the other: a link where it has a handler.
+struct LabelWidget
+{
+    CaptionLabel* caption = nullptr;
+    LinkLabel* link = nullptr;
+
+    QWidget* Widget() const;
+};
+
+struct ControlWidgets
+{
+    std::array<ValueBar*, kScrollBarCount> bars{};
+    std::array<NumberLine*, kFieldCount> fields{};
+    std::array<FaceButton*, kButtonCount> buttons{};
+    std::array<LabelWidget, kLabelCount> labels{};
+    std::array<QAction*, kMenuCount> menu{};
+    PictureWidget* picSelvane = nullptr;
+    PictureWidget* picDemo = nullptr;
+    QWidget* lblSat = nullptr;
+    HelpPaneWidget* txtHelp = nullptr;
+};
+
+struct Surfaces
+{
+    PictureSurface& picSelvane;
+    PictureSurface& picDemo;
+};
+
+// Fills the panel and the menu bar. What the user does to a widget goes through the door.
+ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
+                             const Surfaces& surfaces);
+
+// The names of all controls that take the focus, in reading order: the main picture and the row
+// below it, the two panels, then the tutorials' column.
+std::span<const std::string_view> ReadingOrder();
+
+// What a bar and the field beside it are called; follows the caption of their label.
+QString SpokenNameOf(const ScrollBarRow& row, std::string_view caption);
+
+} // namespace selvane

@@ -1,0 +1,99 @@
+#include "qt/labels.h"
+
+#include "qt/appearance.h"
+#include "qt/focus_frame.h"
+
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace selvane {
+
+namespace {
+
+Qt::Alignment AlignmentOf(Alignment alignment)
+{
+    switch (alignment) {
+    case Alignment::Left:
+        break;
+    case Alignment::Centre:
+        return Qt::AlignHCenter | Qt::AlignTop;
+    case Alignment::Right:
+        return Qt::AlignRight | Qt::AlignTop;
+    }
+    return Qt::AlignLeft | Qt::AlignTop;
+}
+
+} // namespace
+
+CaptionLabel::CaptionLabel(const LabelRow& row, QWidget* parent)
+    : QLabel(parent), place_(row.place), alignment_(row.alignment)
+{
+    setTextFormat(Qt::PlainText);
+    setFont(FontOf(row.points, row.weight, row.underline));
+    setAlignment(AlignmentOf(row.alignment));
+    if (row.colour) {
+        QPalette colours;
+        colours.setColor(QPalette::WindowText, ColourOf(*row.colour));
+        setPalette(colours);
+    }
+    setAutoFillBackground(row.backdrop == Backdrop::Window);
+    SetCaption(TextOf(row.caption));
+}
+
+void CaptionLabel::SetCaption(const QString& caption)
+{
+    setText(caption);
+    Fit();
+}
+
+void CaptionLabel::Fit()
+{
+    const QSize needed = sizeHint();
+    QRect box = RectOf(place_);
+    const int more = std::max(0, needed.width() - box.width());
+    if (alignment_ == Alignment::Right) box.adjust(-more, 0, 0, 0);
+    if (alignment_ == Alignment::Centre) box.adjust(-more / 2, 0, more - more / 2, 0);
+    if (alignment_ == Alignment::Left) box.adjust(0, 0, more, 0);
+    box.setHeight(std::max(box.height(), needed.height()));
+    if (box != geometry()) setGeometry(box);
+}
+
+LinkLabel::LinkLabel(const QString& text, const Place& place, QWidget* parent)
+    : QAbstractButton(parent)
+{
+    setText(text);
+    setFont(FontOf(kTextPoints, Weight::Regular, Underline::Yes));
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    setGeometry(QRect(QPoint(place.left, place.top),
+                      sizeHint().expandedTo(QSize(place.width, place.height))));
+}
+
+QSize LinkLabel::sizeHint() const
+{
+    return fontMetrics().size(Qt::TextHideMnemonic, text()) + QSize(1, 0);
+}
+
+void LinkLabel::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
+void LinkLabel::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(isDown() ? kLinkColour.darker() : kLinkColour);
+    painter.drawText(rect(), Qt::AlignLeft | Qt::AlignTop, text());
+    painter.end();
+    if (hasFocus()) DrawFocusFrame(*this);
+}
+
+bool LinkLabel::hitButton(const QPoint& at) const { return rect().contains(at); }
+
+} // namespace selvane

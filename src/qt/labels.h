@@ -1,0 +1,45 @@
+// The window's texts: captions and read-outs, and links that can be pressed.
+#pragma once
+
+#include "app/control_table.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+
+namespace selvane {
+
+// A text at its place. It is never cut off: where the text needs more room than the place has, it
+// grows away from the side that it is aligned to.
+class CaptionLabel : public QLabel
+{
+public:
+    CaptionLabel(const LabelRow& row, QWidget* parent);
+
+    void SetCaption(const QString& caption);
+
+private:
+    void Fit();
+
+    const Place place_;
+    const Alignment alignment_;
+};
+
+// A text that looks like a link and is pressed by click, Space or Enter. A screen reader calls it a
+// link.
+class LinkLabel : public QAbstractButton
+{
+    Q_OBJECT
+
+public:
+    // A place of no size fits the text.
+    LinkLabel(const QString& text, const Place& place, QWidget* parent);
+
+    QSize sizeHint() const override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool hitButton(const QPoint& at) const override;
+};
+
+} // namespace selvane

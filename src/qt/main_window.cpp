@@ -1,0 +1,110 @@
+#include "qt/main_window.h"
+
+#include "program/program.h"
+#include "qt/appearance.h"
+#include "qt/dispatch.h"
+#include "qt/picture_widget.h"
+#include "qt/picture_words.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
+
+#include <algorithm>
+
+namespace selvane {
+
+namespace {
+
+void SetDescription(QWidget& widget, const std::string& words)
+{
+    const QString text = TextOf(words);
+    if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
+}
+
+} // namespace
+
+MainWindow::MainWindow(Dispatch& door, const Surfaces& surfaces) : area_(new QScrollArea(this))
+{
+    setObjectName(TextOf(kApplicationTitle));
+    setWindowTitle(TextOf(kApplicationTitle));
+    menuBar()->setNativeMenuBar(false);
+    setContextMenuPolicy(Qt::NoContextMenu);
+    BuildPanel(door, surfaces);
+    AddShortcuts(door);
+    FitToScreen();
+}
+
+void MainWindow::BuildPanel(Dispatch& door, const Surfaces& surfaces)
+{
+    auto* const panel = new QWidget;
+    panel->setObjectName("panel");
+    panel->setFixedSize(kClientWidth, kClientHeight);
+    widgets_ = BuildControls(*panel, *menuBar(), door, surfaces);
+    mirror_ = std::make_unique<ControlMirror>(widgets_);
+
+    area_->setObjectName("area");
+    area_->setWidget(panel);
+    area_->setFrameShape(QFrame::NoFrame);
+    area_->setFocusPolicy(Qt::NoFocus); // a click beside the controls takes no field's focus
+    setCentralWidget(area_);
+    connect(qApp, &QApplication::focusChanged, this, [this, panel](QWidget*, QWidget* now) {
+        constexpr int kMargin = 8;
+        if (now && panel->isAncestorOf(now)) area_->ensureWidgetVisible(now, kMargin, kMargin);
+    });
+}
+
+void MainWindow::AddShortcuts(Dispatch& door)
+{
+    auto* const help = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    connect(help, &QShortcut::activated, &door, [&door] {
+        door.Act(WindowId::Main, [](Simulation& sim) { Choose(sim, mnUserGuide); });
+    });
+    auto* const menu = new QShortcut(QKeySequence(Qt::Key_F10), this);
+    connect(menu, &QShortcut::activated, this, &MainWindow::OpenMenuBar);
+}
+
+void MainWindow::OpenMenuBar()
+{
+    menuBar()->setFocus(Qt::MenuBarFocusReason);
+    menuBar()->setActiveAction(menuBar()->actions().first());
+}
+
+void MainWindow::Describe(const Simulation& sim)
+{
+    SetDescription(*widgets_.picSelvane, DescribeMainPicture(sim));
+    SetDescription(*widgets_.picDemo, DescribeTutorialPicture(sim));
+}
+
+void MainWindow::MatchScreen()
+{
+    widgets_.picSelvane->MatchScreen();
+    widgets_.picDemo->MatchScreen();
+}
+
+void MainWindow::FitToScreen()
+{
+    const QRect room = screen()->availableGeometry();
+    const QSize borders = frameGeometry().size() - geometry().size();
+    const QSize content(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
+    const QSize wanted =
+        QSize(kWindowOuter.width, kWindowOuter.height).expandedTo(content + borders);
+    resize(wanted.boundedTo(room.size()) - borders);
+    move(std::max(kWindowOuter.left, room.left()), std::max(kWindowOuter.top, room.top()));
+}
+
+bool MainWindow::event(QEvent* event)
+{
+    // The desktop's frame is known once the window is active.
+    if (event->type() == QEvent::WindowActivate && !frameKnown_) {
+        frameKnown_ = true;
+        FitToScreen();
+    }
+    return QMainWindow::event(event);
+}
+
+} // namespace selvane

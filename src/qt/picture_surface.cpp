@@ -1,0 +1,170 @@
+#include "qt/picture_surface.h"
+
+#include "qt/appearance.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace selvane {
+
+PictureSurface::PictureSurface(const PictureRow& row)
+    : DrawingSurface(row.place.width, row.place.height), background_(PixelOf(row.background))
+{
+    SetDeviceScale(1);
+}
+
+void PictureSurface::SetDeviceScale(double scale)
+{
+    const int width = qRound(Width * scale);
+    const int height = qRound(Height * scale);
+    if (width == width_ && height == height_) return;
+    std::vector<Pixel> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
+                              background_);
+    if (!pixels_.empty()) {
+        const QImage old = Image().scaled(width, height, Qt::IgnoreAspectRatio,
+                                          Qt::SmoothTransformation);
+        for (int y = 0; y < height; ++y)
+            std::copy_n(reinterpret_cast<const Pixel*>(old.constScanLine(y)), width,
+                        pixels.data() + static_cast<std::ptrdiff_t>(y) * width);
+    }
+    pixels_ = std::move(pixels);
+    width_ = width;
+    height_ = height;
+    scale_ = scale;
+    masks_.clear();
+    drawn_ = true;
+}
+
+QImage PictureSurface::Image() const
+{
+    QImage image(reinterpret_cast<const uchar*>(pixels_.data()), width_, height_,
+                 width_ * static_cast<int>(sizeof(Pixel)), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale_);
+    return image;
+}
+
+bool PictureSurface::TakeDrawn() { return std::exchange(drawn_, false); }
+
+Canvas PictureSurface::Target()
+{
+    drawn_ = true;
+    return {pixels_.data(), width_, height_};
+}
+
+// The middle of the picture's pixel in which a place lies on the whole coordinate.
+DevicePoint PictureSurface::Place(float x, float y) const
+{
+    return {((x - ScaleLeft) * (Width / ScaleWidth) + 0.5) * scale_,
+            ((y - ScaleTop) * (Height / ScaleHeight) + 0.5) * scale_};
+}
+
+double PictureSurface::Length(float userUnits) const
+{
+    return std::fabs(userUnits * (Width / ScaleWidth)) * scale_;
+}
+
+void PictureSurface::OnCls() { Clear(Target(), background_); }
+
+void PictureSurface::OnLine(float x1, float y1, float x2, float y2, Colour colour)
+{
+    DrawLine(Target(), Place(x1, y1), Place(x2, y2), scale_, PixelOf(colour));
+}
+
+void PictureSurface::OnPoint(float x, float y, Colour colour)
+{
+    FillSquare(Target(), Place(x, y), std::max(1, qRound(scale_)), PixelOf(colour));
+}
+
+// An outline is one pixel of the picture wide, half of it on either side of the edge.
+void PictureSurface::OnCircle(float x, float y, float radius, Colour outline,
+                              std::optional<Colour> fill)
+{
+    const Canvas canvas = Target();
+    const DevicePoint centre = Place(x, y);
+    const double size = Length(radius);
+    if (!fill) {
+        DrawRing(canvas, centre, size, scale_, PixelOf(outline));
+        return;
+    }
+    FillDisc(canvas, centre, size + scale_ / 2, PixelOf(outline));
+    if (*fill != outline) FillDisc(canvas, centre, size - scale_ / 2, PixelOf(*fill));
+}
+
+void PictureSurface::OnArc(float x, float y, float radius, Colour outline, double start, double end)
+{
+    const DevicePoint centre = Place(x, y);
+    const double size = Length(radius);
+    const Pixel pixel = PixelOf(outline);
+    DrawArc(Target(), centre, size, scale_, {std::fabs(start), std::fabs(end)}, pixel);
+    for (const double angle : {start, end})
+        if (angle < 0) Spoke(centre, size, -angle, pixel);
+}
+
+void PictureSurface::OnSector(float x, float y, float radius, Colour outline,
+                              std::optional<Colour> fill, double start, double end)
+{
+    if (!fill) {
+        OnArc(x, y, radius, outline, start, end);
+        return;
+    }
+    const Canvas canvas = Target();
+    const DevicePoint centre = Place(x, y);
+    const double size = Length(radius);
+    const double half = scale_ / 2;
+    const Wedge wedge{-start, -end};
+    FillSector(canvas, centre, size + half, wedge, half, PixelOf(outline));
+    if (*fill != outline) FillSector(canvas, centre, size - half, wedge, -half, PixelOf(*fill));
+}
+
+void PictureSurface::Spoke(DevicePoint centre, double radius, double angle, Pixel pixel)
+{
+    DrawLine(Target(), centre,
+             {centre.x + radius * std::cos(angle), centre.y - radius * std::sin(angle)}, scale_,
+             pixel);
+}
+
+void PictureSurface::OnText(float x, float y, Colour colour, std::string_view text)
+{
+    const DevicePoint place = Place(x, y);
+    const TextMask& mask = MaskOf(text);
+    const double half = scale_ / 2; // a text's corner is a corner of its pixel
+    DrawMask(Target(), qRound(place.x - half), qRound(place.y - half),
+             {mask.coverage, mask.width, mask.height}, PixelOf(colour));
+}
+
+// Few texts recur at every frame; a clock's texts pass through.
+const PictureSurface::TextMask& PictureSurface::MaskOf(std::string_view text)
+{
+    constexpr qsizetype kMost = 64;
+    const QByteArray key(text.data(), static_cast<qsizetype>(text.size()));
+    const auto known = masks_.constFind(key);
+    if (known != masks_.cend()) return *known;
+    if (masks_.size() >= kMost) masks_.clear();
+
+    const QString string = QString::fromUtf8(key);
+    const QFont font = FontOf(9, Weight::Bold);
+    const QFontMetricsF metrics(font);
+    TextMask mask;
+    mask.width = std::max(1, static_cast<int>(
+                                 std::ceil((metrics.horizontalAdvance(string) + 2) * scale_)));
+    mask.height = std::max(1, static_cast<int>(std::ceil(metrics.height() * scale_)));
+    QImage image(mask.width, mask.height, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale_);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QPointF(0, metrics.ascent()), string);
+    painter.end();
+    for (int row = 0; row < mask.height; ++row) {
+        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(row));
+        for (int at = 0; at < mask.width; ++at)
+            mask.coverage.push_back(static_cast<std::uint8_t>(qAlpha(line[at])));
+    }
+    return *masks_.insert(key, mask);
+}
+
+} // namespace selvane

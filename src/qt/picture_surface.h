@@ -1,0 +1,64 @@
+// PictureSurface: a drawing surface over an image in device pixels. A user unit is scaled to the
+// picture's pixels and those to the screen's; a dot is one pixel of the picture, written straight
+// into the image.
+#pragma once
+
+#include "app/control_table.h"
+#include "app/drawing_surface.h"
+#include "qt/raster.h"
+
+#include <QHash>
+#include <QImage>
+
+#include <vector>
+
+namespace selvane {
+
+class PictureSurface : public DrawingSurface
+{
+public:
+    explicit PictureSurface(const PictureRow& row);
+
+    // Device pixels per pixel of the picture, above 0. A new scale keeps what is drawn, resampled.
+    void SetDeviceScale(double scale);
+    double DeviceScale() const { return scale_; }
+
+    // The picture as drawn so far; valid until the surface is drawn on or scaled.
+    QImage Image() const;
+
+    // Whether anything was drawn since the last call.
+    bool TakeDrawn();
+
+protected:
+    void OnCls() override;
+    void OnLine(float x1, float y1, float x2, float y2, Colour colour) override;
+    void OnCircle(float x, float y, float radius, Colour outline,
+                  std::optional<Colour> fill) override;
+    void OnArc(float x, float y, float radius, Colour outline, double start, double end) override;
+    void OnSector(float x, float y, float radius, Colour outline, std::optional<Colour> fill,
+                  double start, double end) override;
+    void OnPoint(float x, float y, Colour colour) override;
+    void OnText(float x, float y, Colour colour, std::string_view text) override;
+
+private:
+    struct TextMask
+    {
+        std::vector<std::uint8_t> coverage;
+        int width = 0, height = 0;
+    };
+
+    Canvas Target();
+    DevicePoint Place(float x, float y) const;
+    double Length(float userUnits) const;
+    void Spoke(DevicePoint centre, double radius, double angle, Pixel pixel);
+    const TextMask& MaskOf(std::string_view text);
+
+    const Pixel background_;
+    double scale_ = 1;
+    int width_ = 0, height_ = 0; // device pixels
+    std::vector<Pixel> pixels_;
+    QHash<QByteArray, TextMask> masks_;
+    bool drawn_ = true;
+};
+
+} // namespace selvane

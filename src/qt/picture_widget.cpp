@@ -1,0 +1,33 @@
+#include "qt/picture_widget.h"
+
+#include "qt/appearance.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace selvane {
+
+PictureWidget::PictureWidget(PictureSurface& surface, const PictureRow& row, QWidget* parent)
+    : QWidget(parent), surface_(surface)
+{
+    setObjectName(TextOf(row.name));
+    setGeometry(RectOf(row.place));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void PictureWidget::ShowFrame()
+{
+    if (surface_.TakeDrawn()) update(QRegion(rect()) - covered_);
+}
+
+void PictureWidget::MatchScreen() { surface_.SetDeviceScale(devicePixelRatioF()); }
+
+void PictureWidget::paintEvent(QPaintEvent* event)
+{
+    MatchScreen();
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawImage(0, 0, surface_.Image());
+}
+
+} // namespace selvane

@@ -1,0 +1,127 @@
+#include "qt/qt_platform.h"
+
+#include "qt/appearance.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+
+namespace selvane {
+
+namespace {
+
+constexpr char kFirstDocument[] = "Help(20).rtf";
+constexpr RegistryKey kToolKey{1};
+constexpr std::uint32_t kStringType = 1; // the registry's own number
+
+bool HoldsDocuments(const QString& folder) { return QFileInfo(folder, kFirstDocument).isFile(); }
+
+// Installed beside the program's folder; built, in a folder above it.
+QStringList DocumentFolders()
+{
+    QDir folder(QCoreApplication::applicationDirPath());
+    QStringList folders{folder.filePath("../share/help/C/selvane")};
+    do folders += folder.filePath("help");
+    while (folder.cdUp());
+    return folders;
+}
+
+QString SystemInformationTool()
+{
+    for (const char* const name : {"hardinfo2", "hardinfo", "kinfocenter", "mate-system-monitor",
+                                   "gnome-system-monitor", "plasma-systemmonitor", "ksysguard"}) {
+        const QString path = QStandardPaths::findExecutable(name);
+        if (!path.isEmpty()) return path;
+    }
+    return {};
+}
+
+} // namespace
+
+void ChooseWorkingFolder()
+{
+    if (HoldsDocuments(".")) return;
+    for (const QString& folder : DocumentFolders())
+        if (HoldsDocuments(folder)) {
+            QDir::setCurrent(folder);
+            return;
+        }
+}
+
+LocalTime QtPlatform::Now() const
+{
+    const QDateTime now = QDateTime::currentDateTime();
+    const QDate date = now.date();
+    const QTime time = now.time();
+    return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+}
+
+std::optional<std::string> QtPlatform::ReadDocument(std::string_view name) const
+{
+    constexpr qint64 kLargest = 32 << 20;
+    const QString bare = TextOf(name);
+    if (bare.isEmpty() || bare.contains('/')) return std::nullopt;
+    // A pipe or a device of that name is not even opened.
+    const QFileInfo info(bare);
+    if (!info.isFile() || info.size() > kLargest) return std::nullopt;
+    QFile file(bare);
+    if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
+    const QByteArray bytes = file.read(kLargest + 1);
+    if (bytes.size() > kLargest || file.error() != QFileDevice::NoError) return std::nullopt;
+    return bytes.toStdString();
+}
+
+void QtPlatform::OpenLink(std::string_view target)
+{
+    const QUrl link(TextOf(target));
+    QMetaObject::invokeMethod(
+        this, [link] { QDesktopServices::openUrl(link); }, Qt::QueuedConnection);
+}
+
+bool QtPlatform::StartProgram(const std::string& path)
+{
+    return QProcess::startDetached(QString::fromStdString(path), {});
+}
+
+bool QtPlatform::FileExists(const std::string& path) const
+{
+    return QFileInfo(QString::fromStdString(path)).isFile();
+}
+
+void QtPlatform::ShowMessage(std::string_view text, std::string_view title)
+{
+    const QString words = TextOf(text);
+    const QString heading = TextOf(title);
+    const auto show = [words, heading] {
+        auto* const box = new QMessageBox(QMessageBox::NoIcon, heading, words, QMessageBox::Ok,
+                                          QApplication::activeWindow());
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open(); // the flight goes on behind it
+    };
+    QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+}
+
+std::optional<RegistryKey> QtPlatform::OpenKey(std::uint32_t, const std::string& path,
+                                               std::uint32_t)
+{
+    if (path != "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO") return std::nullopt;
+    return kToolKey;
+}
+
+std::optional<RegistryValue> QtPlatform::QueryValue(RegistryKey key, const std::string& name,
+                                                    std::uint32_t bufferSize)
+{
+    if (key != kToolKey || name != "PATH") return std::nullopt;
+    const std::string path = SystemInformationTool().toStdString();
+    if (path.empty() || path.size() > bufferSize) return std::nullopt;
+    return RegistryValue{kStringType, path};
+}
+
+} // namespace selvane

@@ -1,0 +1,168 @@
+#include "qt/raster.h"
+
+#include "qt/raster_spans.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+namespace selvane {
+
+namespace {
+
+constexpr std::uint32_t kWhole = 256; // weight of a colour that replaces what is below
+
+Pixel Mix(Pixel below, Pixel above, std::uint32_t weight)
+{
+    constexpr Pixel kRedAndBlue = 0x00ff00ffU, kGreen = 0x0000ff00U;
+    const std::uint32_t rest = kWhole - weight;
+    const Pixel redBlue = ((below & kRedAndBlue) * rest + (above & kRedAndBlue) * weight) >> 8;
+    const Pixel green = ((below & kGreen) * rest + (above & kGreen) * weight) >> 8;
+    return 0xff000000U | (redBlue & kRedAndBlue) | (green & kGreen);
+}
+
+struct Segment
+{
+    DevicePoint from, to;
+};
+
+// Narrows the stretch [first, last] of a segment to where start + slope * t lies within 0 to limit.
+bool Narrow(double start, double slope, double limit, double& first, double& last)
+{
+    if (slope == 0) return start >= 0 && start <= limit;
+    double enter = -start / slope;
+    double leave = (limit - start) / slope;
+    if (enter > leave) std::swap(enter, leave);
+    first = std::max(first, enter);
+    last = std::min(last, leave);
+    return first <= last;
+}
+
+// The part of a segment on the canvas or within a margin of it.
+std::optional<Segment> Visible(const Canvas& canvas, const Segment& line, double margin)
+{
+    const double acrossBy = line.to.x - line.from.x;
+    const double downBy = line.to.y - line.from.y;
+    double first = 0;
+    double last = 1;
+    if (!Narrow(line.from.x + margin, acrossBy, canvas.width + 2 * margin, first, last) ||
+        !Narrow(line.from.y + margin, downBy, canvas.height + 2 * margin, first, last))
+        return std::nullopt;
+    return Segment{{line.from.x + first * acrossBy, line.from.y + first * downBy},
+                   {line.from.x + last * acrossBy, line.from.y + last * downBy}};
+}
+
+Run Thick(double low, double high, int thickness)
+{
+    const double half = thickness / 2.0;
+    return {NearestWhole(low - half), NearestWhole(high - half) + thickness};
+}
+
+// Runs along the longer direction and covers, in the other, what the thickness takes.
+template <typename PixelAt>
+void SmoothLine(DevicePoint from, DevicePoint to, double thickness, Pixel pixel, PixelAt pixelAt)
+{
+    if (from.x > to.x) std::swap(from, to);
+    const double slope = (to.y - from.y) / (to.x - from.x);
+    const double half = thickness / 2 * std::sqrt(1 + slope * slope);
+    for (int along = WholeBelow(from.x); along <= WholeBelow(to.x); ++along) {
+        const double middle = from.y + slope * (along + 0.5 - from.x);
+        for (int over = WholeBelow(middle - half); over <= WholeBelow(middle + half); ++over) {
+            const double covered =
+                std::min(middle + half, over + 1.0) - std::max(middle - half, over * 1.0);
+            if (Pixel* const below = pixelAt(along, over)) Blend(*below, pixel, covered);
+        }
+    }
+}
+
+} // namespace
+
+int WholeBelow(double coordinate)
+{
+    constexpr double kFarOutside = 1e8;
+    return static_cast<int>(std::floor(std::clamp(coordinate, -kFarOutside, kFarOutside)));
+}
+
+int NearestWhole(double coordinate) { return WholeBelow(coordinate + 0.5); }
+
+Run Clipped(Run run, int limit) { return {std::max(run.first, 0), std::min(run.end, limit)}; }
+
+Run CentresWithin(double low, double high)
+{
+    return {-WholeBelow(0.5 - low), WholeBelow(high - 0.5) + 1};
+}
+
+void FillRun(Pixel* row, Run run, Pixel pixel)
+{
+    if (!run.IsEmpty()) std::fill(row + run.first, row + run.end, pixel);
+}
+
+void FillBlock(const Canvas& canvas, Run across, Run down, Pixel pixel)
+{
+    across = Clipped(across, canvas.width);
+    down = Clipped(down, canvas.height);
+    for (int y = down.first; y < down.end; ++y) FillRun(canvas.Row(y), across, pixel);
+}
+
+void Blend(Pixel& below, Pixel above, double coverage)
+{
+    const double weight = std::clamp(coverage, 0.0, 1.0) * kWhole;
+    below = Mix(below, above, static_cast<std::uint32_t>(weight));
+}
+
+void Clear(const Canvas& canvas, Pixel pixel)
+{
+    std::fill(canvas.pixels, canvas.Row(canvas.height), pixel);
+}
+
+void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel)
+{
+    const int left = NearestWhole(centre.x - side / 2.0);
+    const int top = NearestWhole(centre.y - side / 2.0);
+    if (left < 0 || top < 0 || left + side > canvas.width || top + side > canvas.height) {
+        FillBlock(canvas, {left, left + side}, {top, top + side}, pixel);
+        return;
+    }
+    for (int y = top; y < top + side; ++y)
+        for (int x = left; x < left + side; ++x) canvas.Row(y)[x] = pixel;
+}
+
+void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness,
+              Pixel pixel)
+{
+    const std::optional<Segment> line = Visible(canvas, {from, to}, thickness + 1);
+    if (!line) return;
+    const auto [left, right] = std::minmax(line->from.x, line->to.x);
+    const auto [top, bottom] = std::minmax(line->from.y, line->to.y);
+    const int side = std::max(1, NearestWhole(thickness));
+    constexpr double kStraight = 1e-6;
+    if (right - left < kStraight || bottom - top < kStraight) {
+        FillBlock(canvas, Thick(left, right, side), Thick(top, bottom, side), pixel);
+        return;
+    }
+    const auto at = [&canvas](int x, int y) -> Pixel* {
+        const bool outside = x < 0 || y < 0 || x >= canvas.width || y >= canvas.height;
+        return outside ? nullptr : canvas.Row(y) + x;
+    };
+    if (right - left >= bottom - top)
+        SmoothLine(line->from, line->to, thickness, pixel, at);
+    else
+        SmoothLine({line->from.y, line->from.x}, {line->to.y, line->to.x}, thickness, pixel,
+                   [&at](int along, int over) { return at(over, along); });
+}
+
+void DrawMask(const Canvas& canvas, int left, int top, const Mask& mask, Pixel pixel)
+{
+    const Run across = Clipped({left, left + mask.width}, canvas.width);
+    const Run down = Clipped({top, top + mask.height}, canvas.height);
+    for (int y = down.first; y < down.end; ++y) {
+        const std::uint8_t* const row = mask.coverage.data() + (y - top) * mask.width - left;
+        for (int x = across.first; x < across.end; ++x) {
+            Pixel& below = canvas.Row(y)[x];
+            below = Mix(below, pixel, row[x] + (row[x] >> 7)); // 255 becomes the whole
+        }
+    }
+}
+
+} // namespace selvane

@@ -1,0 +1,76 @@
+// Raster: draws into a canvas of 32-bit pixels, in device pixels. x grows to the right, y downward;
+// pixel (i, j) covers i to i + 1 and j to j + 1. Whatever lies outside the canvas is clipped.
+#pragma once
+
+#include "app/colour.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+namespace selvane {
+
+using Pixel = std::uint32_t; // 0xffRRGGBB
+
+constexpr Pixel PixelOf(Colour colour)
+{
+    return 0xff000000U | static_cast<Pixel>(colour.red) << 16 |
+           static_cast<Pixel>(colour.green) << 8 | static_cast<Pixel>(colour.blue);
+}
+
+// A view of pixels that someone else holds, row upon row.
+struct Canvas
+{
+    Pixel* pixels;
+    int width, height;
+
+    Pixel* Row(int y) const
+    {
+        return pixels + static_cast<std::ptrdiff_t>(y) * static_cast<std::ptrdiff_t>(width);
+    }
+};
+
+struct DevicePoint
+{
+    double x, y;
+};
+
+// The part of a disc from one ray to the other, radians, counter-clockwise on the screen from the
+// +x axis. Angles of equal place but unequal number are a whole turn apart.
+struct Wedge
+{
+    double start, end;
+};
+
+void Clear(const Canvas& canvas, Pixel pixel);
+
+// A square about a centre, moved to the nearest whole pixels. Side 1 or more.
+void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel);
+
+// Both ends are part of it. Level and upright lines are crisp, all others smoothed.
+void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness,
+              Pixel pixel);
+
+// Discs and sectors have a smoothed edge. Two sectors that meet show no seam where each is half a
+// pixel or more larger than its angles say: that is what `grow` adds on every side.
+void FillDisc(const Canvas& canvas, DevicePoint centre, double radius, Pixel pixel);
+void FillSector(const Canvas& canvas, DevicePoint centre, double radius, Wedge wedge, double grow,
+                Pixel pixel);
+
+// The pixels whose centre lies within half the thickness of the circle: circles that stand one
+// thickness apart leave no hole between them. An arc is that part of it.
+void DrawRing(const Canvas& canvas, DevicePoint centre, double radius, double thickness,
+              Pixel pixel);
+void DrawArc(const Canvas& canvas, DevicePoint centre, double radius, double thickness,
+             Wedge wedge, Pixel pixel);
+
+// Coverages of 0 to 255, row upon row.
+struct Mask
+{
+    std::span<const std::uint8_t> coverage;
+    int width = 0, height = 0;
+};
+
+void DrawMask(const Canvas& canvas, int left, int top, const Mask& mask, Pixel pixel);
+
+} // namespace selvane

@@ -1,0 +1,48 @@
+#include "qt/shell.h"
+
+#include "program/program.h"
+#include "qt/spoken_roles.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QWindow>
+
+namespace selvane {
+
+Shell::Shell(Platform& platform)
+    : picSelvane_(kPicSelvane), picDemo_(kPicDemo),
+      sim_(picSelvane_, picDemo_, platform, TheWiring()), door_(sim_),
+      window_(door_, {picSelvane_, picDemo_}), timers_(door_), keeper_(door_, window_)
+{
+    TeachSpokenRoles();
+    connect(&door_, &Dispatch::settled, this, &Shell::Match);
+    connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
+    door_.Report([](Simulation& sim) { Load(sim); });
+}
+
+void Shell::Show()
+{
+    window_.MatchScreen();
+    door_.Report([](Simulation& sim) { FirstShowing(sim); });
+    window_.show();
+    window_.windowHandle()->installEventFilter(this);
+    window_.activateWindow(); // a desktop without a window manager activates nothing by itself
+}
+
+void Shell::Match(Dispatch::After after)
+{
+    window_.Match(sim_);
+    if (after == Dispatch::After::Actions) window_.Describe(sim_);
+    timers_.Match(sim_.controls.timers);
+    keeper_.Match(sim_);
+}
+
+bool Shell::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool handled = QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::Expose)
+        timers_.SetWatched(window_.windowHandle()->isExposed());
+    return handled;
+}
+
+} // namespace selvane
