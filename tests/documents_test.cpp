@@ -34,68 +34,12 @@ constexpr Document kDocuments[] = {
 };
 
 // The control words that the documents keep to, so that any word processor opens them.
-const std::set<std::string, std::less<>> kControlWords{"rtf",
-                                                       "ansi",
-                                                       "ansicpg",
-                                                       "deff",
-                                                       "deflang",
-                                                       "uc",
-                                                       "fonttbl",
-                                                       "f",
-                                                       "fswiss",
-                                                       "fcharset",
-                                                       "falt",
-                                                       "colortbl",
-                                                       "red",
-                                                       "green",
-                                                       "blue",
-                                                       "stylesheet",
-                                                       "s",
-                                                       "sbasedon",
-                                                       "snext",
-                                                       "keepn",
-                                                       "outlinelevel",
-                                                       "listtable",
-                                                       "list",
-                                                       "listtemplateid",
-                                                       "listsimple",
-                                                       "listlevel",
-                                                       "levelnfc",
-                                                       "leveljc",
-                                                       "levelstartat",
-                                                       "levelfollow",
-                                                       "leveltext",
-                                                       "levelnumbers",
-                                                       "listid",
-                                                       "listoverridetable",
-                                                       "listoverride",
-                                                       "listoverridecount",
-                                                       "ls",
-                                                       "ilvl",
-                                                       "listtext",
-                                                       "paperw",
-                                                       "paperh",
-                                                       "margl",
-                                                       "margr",
-                                                       "margt",
-                                                       "margb",
-                                                       "pard",
-                                                       "plain",
-                                                       "par",
-                                                       "tab",
-                                                       "fi",
-                                                       "li",
-                                                       "sa",
-                                                       "sb",
-                                                       "fs",
-                                                       "cf",
-                                                       "b",
-                                                       "i",
-                                                       "ul",
-                                                       "u",
-                                                       "field",
-                                                       "fldinst",
-                                                       "fldrslt"};
+constexpr std::string_view kControlWords =
+    " rtf ansi ansicpg deff deflang uc fonttbl f fswiss fcharset falt colortbl red green blue "
+    "stylesheet s sbasedon snext keepn outlinelevel listtable list listtemplateid listsimple "
+    "listlevel levelnfc leveljc levelstartat levelfollow leveltext levelnumbers listid "
+    "listoverridetable listoverride listoverridecount ls ilvl listtext paperw paperh margl "
+    "margr margt margb pard plain par tab fi li sa sb fs cf b i ul u field fldinst fldrslt ";
 
 // Beyond ASCII the documents use these characters only; Carlito has a glyph for each, in all four
 // styles.
@@ -220,7 +164,7 @@ void ExpectKnownWords(const std::string& bytes)
         if (word.empty())
             EXPECT_NE(std::string_view("'*{}").find(bytes[at + 1]), std::string::npos);
         else
-            EXPECT_TRUE(kControlWords.contains(word)) << '\\' << word;
+            EXPECT_NE(kControlWords.find(' ' + word + ' '), std::string_view::npos) << '\\' << word;
     }
 }
 
