@@ -17,12 +17,12 @@ enum class StrokeKind { Cls, Line, Circle, Arc, Sector, Point, Text };
 struct Stroke
 {
     StrokeKind kind = StrokeKind::Cls;
-    float x1 = 0, y1 = 0;       // a line's start, a centre, a point, a text's corner
-    float x2 = 0, y2 = 0;       // a line's end; x2 is a circle's radius
-    Colour colour;
-    std::optional<Colour> fill; // of a circle or sector that is filled
-    double start = 0, end = 0;  // radians, of an arc or sector
-    std::string text;
+    float x1 = 0, y1 = 0; // a line's start, a centre, a point, a text's corner
+    float x2 = 0, y2 = 0; // a line's end, the point again; x2 is a circle's radius
+    Colour colour{};
+    std::string text{};
+    std::optional<Colour> fill{}; // of a circle or sector that is filled
+    double start = 0, end = 0;    // radians, of an arc or sector
 
     bool operator==(const Stroke&) const = default;
 };
@@ -56,7 +56,7 @@ public:
     }
 
 protected:
-    using Fill = std::optional<Colour>;
+    using Filling = std::optional<Colour>;
 
     void OnCls() override
     {
@@ -65,28 +65,28 @@ protected:
     }
     void OnLine(float x1, float y1, float x2, float y2, Colour colour) override
     {
-        Keep({StrokeKind::Line, x1, y1, x2, y2, colour, {}, 0, 0, {}});
+        Keep({StrokeKind::Line, x1, y1, x2, y2, colour});
     }
-    void OnCircle(float x, float y, float radius, Colour colour, Fill fill) override
+    void OnCircle(float x, float y, float radius, Colour colour, Filling fill) override
     {
-        Keep({StrokeKind::Circle, x, y, radius, 0, colour, fill, 0, 0, {}});
+        Keep({StrokeKind::Circle, x, y, radius, 0, colour, "", fill});
     }
     void OnArc(float x, float y, float radius, Colour colour, double start, double end) override
     {
-        Keep({StrokeKind::Arc, x, y, radius, 0, colour, {}, start, end, {}});
+        Keep({StrokeKind::Arc, x, y, radius, 0, colour, "", {}, start, end});
     }
-    void OnSector(float x, float y, float radius, Colour colour, Fill fill, double start,
+    void OnSector(float x, float y, float radius, Colour colour, Filling fill, double start,
                   double end) override
     {
-        Keep({StrokeKind::Sector, x, y, radius, 0, colour, fill, start, end, {}});
+        Keep({StrokeKind::Sector, x, y, radius, 0, colour, "", fill, start, end});
     }
     void OnPoint(float x, float y, Colour colour) override
     {
-        Keep({StrokeKind::Point, x, y, 0, 0, colour, {}, 0, 0, {}});
+        Keep({StrokeKind::Point, x, y, x, y, colour});
     }
     void OnText(float x, float y, Colour colour, std::string_view text) override
     {
-        Keep({StrokeKind::Text, x, y, 0, 0, colour, {}, 0, 0, std::string(text)});
+        Keep({StrokeKind::Text, x, y, 0, 0, colour, std::string(text)});
         if (keeping) texts.emplace_back(text);
     }
 

@@ -87,7 +87,10 @@ void CelestialPoles(Simulation& sim, double viewFactor)
 
 } // namespace
 
-double DemoView(const Simulation& sim) { return Radians(sim.state, Number(sim, txtViewD)); }
+double DemoView(const Simulation& sim)
+{
+    return Radians(sim.state, Number(sim, txtViewD));
+}
 
 void DemoBackdrop(Simulation& sim)
 {

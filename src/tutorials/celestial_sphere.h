@@ -30,8 +30,8 @@ void DemoPlane(Simulation& sim, double lonDeg, double rollDeg);
 // left in ProjX to ProjZ.
 void DemoArc(Simulation& sim, double fromDeg, double toDeg, double stepDeg);
 
-// A dark line from the centre to (x1, y1) and a light one on to (x2, y2); the light colour stays for
-// the label. Writes PoleX1 to PoleY2.
+// A dark line from the centre to (x1, y1) and a light one on to (x2, y2); the light colour stays
+// for the label. Writes PoleX1 to PoleY2.
 void DemoPolarLine(Simulation& sim, double x1, double y1, double x2, double y2);
 
 } // namespace selvane

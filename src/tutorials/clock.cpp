@@ -17,7 +17,7 @@ namespace {
 using std::chrono::sys_days;
 
 constexpr int kDaysFromSolsticeToNewYear = 10;
-constexpr double kDialDays = 366.25; // days of a full turn on the dial
+constexpr double kDialDays = 366.25;     // days of a full turn on the dial
 constexpr double kFarthestOffset = 4e11; // seconds, more than all years that have a name
 
 // The calendar without its time zone: local dates count like universal ones here.

@@ -11,8 +11,8 @@ namespace selvane {
 
 struct Simulation;
 
-// Ticks of tmrTime: paints picDemo anew. Reads the clock, txtRange and PlanetTilt. Writes GmtOffset,
-// leaves the scratch of the Demo projection and FillStyle solid.
+// Ticks of tmrTime: paints picDemo anew. Reads the clock, txtRange and PlanetTilt. Writes
+// GmtOffset, leaves the scratch of the Demo projection and FillStyle solid.
 void tmrTime_Timer(Simulation& sim);
 
 // Whole days gone in the year: 0 on 1 January, 364 or 365 on 31 December.
@@ -33,8 +33,8 @@ struct EarthOnDial
     double orbitDeg; // 9.83 on 1 January, over 360 in the last days of December
     double orbitRad; // also the direction from the Earth to the Sun
     double x, y;
-    double spinDeg;  // rotation at local time, whole degrees
-    double spinRad;  // rotation at GMT
+    double spinDeg; // rotation at local time, whole degrees
+    double spinRad; // rotation at GMT
 };
 
 // Any finite offset, in hours, gives finite angles.

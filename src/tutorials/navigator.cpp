@@ -17,7 +17,10 @@ namespace selvane {
 
 namespace {
 
-struct RangeSettings { int max, min, value, smallChange, largeChange; };
+struct RangeSettings
+{
+    int max, min, value, smallChange, largeChange;
+};
 
 struct Step
 {
@@ -25,8 +28,8 @@ struct Step
     SceneKey key;
     Procedure scene;
     std::string_view document;
-    Procedure controls;      // before the scene: what shows beside it
-    bool returnsMainPicture; // after the scene CurPic is the main picture again
+    Procedure controls;                 // before the scene: what shows beside it
+    bool returnsMainPicture;            // after the scene CurPic is the main picture again
     std::optional<RangeSettings> range; // given to sclRange after the scene
 };
 
@@ -113,7 +116,10 @@ void Walk(Simulation& sim, int direction)
     state.OrbitMode = state.SavedOrbitMode;
 }
 
-bool HasViewAngle(const Step& step) { return step.number <= kLastFrame; }
+bool HasViewAngle(const Step& step)
+{
+    return step.number <= kLastFrame;
+}
 
 } // namespace
 
@@ -156,8 +162,14 @@ void mnTimeStandards_Click(Simulation& sim)
     Show(sim, lblReturnToTutorial, false);
 }
 
-void btnNext2_Click(Simulation& sim) { Walk(sim, +1); }
-void btnBack2_Click(Simulation& sim) { Walk(sim, -1); }
+void btnNext2_Click(Simulation& sim)
+{
+    Walk(sim, +1);
+}
+void btnBack2_Click(Simulation& sim)
+{
+    Walk(sim, -1);
+}
 
 void lblReturnToTutorial_Click(Simulation& sim)
 {

@@ -2,7 +2,7 @@
 
 #include "app/simulation.h"
 #include "scene/planet_disc.h"
-#include "scene/projection.h"
+#include "scene/ring.h"
 #include "scene/surroundings.h"
 #include "tutorials/strokes.h"
 
@@ -30,14 +30,13 @@ void DottedDiameter(Simulation& sim)
     state.SurfPosLon = Radians(state, state.SurfLonDeg);
     state.SurfRollDeg = state.SurfPosRoll = 0;
     state.PosRadius = state.PlanetPx;
-    const Projection project({state.SurfPosLon, state.SurfPosRoll, 0});
-    Projected point{};
-    for (state.DemoLatDeg = 0; state.DemoLatDeg <= 360; ++state.DemoLatDeg) {
-        state.DemoPosLat = Radians(state, state.DemoLatDeg);
-        point = project(state.PosRadius, state.DemoPosLat);
+    const Ring ring =
+        MakeRing(WholeDegrees(), state.PosRadius, {state.SurfPosLon, state.SurfPosRoll, 0});
+    for (const Projected& point : ring)
         if (point.z > 0) sim.picDemo.PSet(point.x + state.PlanetX, point.y + state.PlanetY);
-    }
-    StoreProjected(state, point);
+    state.DemoLatDeg = kRingPoints;
+    state.DemoPosLat = WholeDegrees().back().radians;
+    StoreProjected(state, ring.back());
 }
 
 void Axes(DrawingSurface& picture, double radius)

@@ -2,7 +2,7 @@
 
 #include "app/number_text.h"
 #include "app/simulation.h"
-#include "scene/projection.h"
+#include "scene/ring.h"
 #include "tutorials/step_controls.h"
 #include "tutorials/strokes.h"
 
@@ -73,14 +73,12 @@ void EarthHalf(Simulation& sim, double x, double y, Colour outline, double angle
 void EarthNearCircle(Simulation& sim, double x, double y)
 {
     SimState& state = sim.state;
-    const Projection project({state.DemoPosLon, state.DemoPosRoll, state.DemoViewRad});
-    const double step = state.Pi / 180;
-    Projected point{};
-    for (state.DemoPosLat = 0; state.DemoPosLat <= 2 * state.Pi; state.DemoPosLat += step) {
-        point = project(state.PosRadius, state.DemoPosLat);
+    const Ring ring = MakeRing(RunningSum(), state.PosRadius,
+                               {state.DemoPosLon, state.DemoPosRoll, state.DemoViewRad});
+    for (const Projected& point : ring)
         if (point.z > 0) sim.picDemo.PSet(x + point.x, y + point.y);
-    }
-    StoreProjected(state, point);
+    state.DemoPosLat = RunningSum().back().radians + state.Pi / 180; // one step past the end
+    StoreProjected(state, ring.back());
 }
 
 void EarthEquator(Simulation& sim, double x, double y)

@@ -15,7 +15,10 @@ namespace {
 constexpr double kArcFrom = 270;
 constexpr double kArcTo = 330;
 
-struct Names { std::string_view reference, upward, along; };
+struct Names
+{
+    std::string_view reference, upward, along;
+};
 
 Names NamesOf(SceneKey key)
 {

@@ -17,10 +17,22 @@ void ShowGroup(Simulation& sim, ScrollBarId bar, FieldId field, LabelId label, b
 
 } // namespace
 
-void ShowViewControls(Simulation& sim) { ShowGroup(sim, sclViewD, txtViewD, lblViewD, true); }
-void HideViewControls(Simulation& sim) { ShowGroup(sim, sclViewD, txtViewD, lblViewD, false); }
-void ShowRangeControls(Simulation& sim) { ShowGroup(sim, sclRange, txtRange, lblRange, true); }
-void HideRangeControls(Simulation& sim) { ShowGroup(sim, sclRange, txtRange, lblRange, false); }
+void ShowViewControls(Simulation& sim)
+{
+    ShowGroup(sim, sclViewD, txtViewD, lblViewD, true);
+}
+void HideViewControls(Simulation& sim)
+{
+    ShowGroup(sim, sclViewD, txtViewD, lblViewD, false);
+}
+void ShowRangeControls(Simulation& sim)
+{
+    ShowGroup(sim, sclRange, txtRange, lblRange, true);
+}
+void HideRangeControls(Simulation& sim)
+{
+    ShowGroup(sim, sclRange, txtRange, lblRange, false);
+}
 
 void NameRange(Simulation& sim, std::string_view caption, std::string_view toolTip)
 {
