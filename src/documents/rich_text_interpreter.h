@@ -239,6 +239,8 @@ private:
     ListTables lists_;
     std::vector<OldList> oldLists_;
     std::int32_t oldListCount_ = 0; // numbered paragraphs since the last one that was not
+    NumberStyle oldListStyle_ = NumberStyle::Arabic;
+    std::int32_t oldListLevel_ = 0;
     std::vector<Field> fields_;
     std::int32_t characterSetPage_ = kWesternPage;
     std::int32_t codePage_ = 0; // 0: none was told

@@ -9,11 +9,14 @@ namespace selvane {
 
 namespace {
 
-bool IsRichText(std::string_view bytes)
+// The document from its first brace on; empty if the bytes are none.
+std::string_view DocumentIn(std::string_view bytes)
 {
     if (bytes.starts_with("\xEF\xBB\xBF")) bytes.remove_prefix(3);
     const std::size_t start = bytes.find_first_not_of(std::string_view(" \t\r\n\f\v\0", 7));
-    return start != std::string_view::npos && bytes.substr(start).starts_with("{\\rtf");
+    if (start == std::string_view::npos) return {};
+    const std::string_view document = bytes.substr(start);
+    return document.starts_with("{\\rtf") ? document : std::string_view();
 }
 
 RichTextResult ReadFile(const std::filesystem::path& path)
@@ -40,9 +43,10 @@ RichTextResult ReadFile(const std::filesystem::path& path)
 RichTextResult ReadRichText(std::string_view bytes) noexcept
 {
     if (bytes.size() > kMaxRichTextBytes) return RichTextError::TooBig;
-    if (!IsRichText(bytes)) return RichTextError::NotRichText;
+    const std::string_view document = DocumentIn(bytes);
+    if (document.empty()) return RichTextError::NotRichText;
     try {
-        return RichTextInterpreter(bytes).Read();
+        return RichTextInterpreter(document).Read();
     } catch (...) { // memory is all that can run out
         return RichTextError::TooBig;
     }

@@ -178,7 +178,8 @@ void RichTextInterpreter::EmitSymbolField()
 
 void RichTextInterpreter::StartPicture(const Token& token, std::int32_t)
 {
-    if (!IsInBody())
+    const bool mayShow = IsInBody() || state_.destination == Destination::ShapeValue;
+    if (!mayShow)
         Skip(token, 0);
     else if (Enter(Destination::Picture))
         picture_ = {};
@@ -301,7 +302,10 @@ std::optional<ListItem> RichTextInterpreter::OldListItem(std::string stored)
         if (stored.empty()) return std::nullopt;
         return ListItem{state_.listLevel, std::move(stored)};
     }
-    if (list->isNumbered) ++oldListCount_;
+    const bool goesOn = oldListStyle_ == list->style && oldListLevel_ == list->level;
+    oldListStyle_ = list->style;
+    oldListLevel_ = list->level;
+    if (list->isNumbered) oldListCount_ = goesOn ? oldListCount_ + 1 : 1;
     if (!stored.empty()) return ListItem{list->level, std::move(stored)};
     const std::string number =
         list->isNumbered ? NumberText(list->style, list->start + oldListCount_ - 1) : "";
