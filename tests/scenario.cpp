@@ -45,7 +45,7 @@ bool Holds(const Expectation& expectation, const std::string& actual)
 
 } // namespace
 
-std::vector<std::filesystem::path> ScenarioFiles()
+std::vector<std::filesystem::path> StoryFiles()
 {
     std::vector<std::filesystem::path> files;
     for (const auto& entry : std::filesystem::directory_iterator(SELVANE_SCENARIOS))
@@ -54,9 +54,9 @@ std::vector<std::filesystem::path> ScenarioFiles()
     return files;
 }
 
-Scenario ReadScenario(const std::filesystem::path& file)
+Story ReadStory(const std::filesystem::path& file)
 {
-    Scenario scenario{file, {}};
+    Story story{file, {}};
     std::ifstream input(file, std::ios::binary);
     int number = 0;
     for (std::string line; std::getline(input, line);) {
@@ -65,23 +65,23 @@ Scenario ReadScenario(const std::filesystem::path& file)
             ADD_FAILURE_AT(file.c_str(), number) << "the first line must say what the user sees";
         if (replay::IsRemark(line)) continue;
         if (const auto action = replay::ParseAction(line))
-            scenario.lines.push_back({number, *action});
+            story.lines.push_back({number, *action});
         else if (const auto expectation = ParseExpectation(line))
-            scenario.lines.push_back({number, *expectation});
+            story.lines.push_back({number, *expectation});
         else
             ADD_FAILURE_AT(file.c_str(), number) << "neither action nor expectation: " << line;
     }
-    if (scenario.lines.empty()) ADD_FAILURE_AT(file.c_str(), 1) << "an empty scenario";
-    return scenario;
+    if (story.lines.empty()) ADD_FAILURE_AT(file.c_str(), 1) << "an empty scenario";
+    return story;
 }
 
-void Check(const Scenario& scenario, const ScenarioLine& line, const Expectation& expectation,
+void Check(const Story& story, const StoryLine& line, const Expectation& expectation,
            const replay::Dump& dump)
 {
     const auto entry = dump.find(expectation.key);
     const std::string actual = entry == dump.end() ? "(no such key)" : entry->second;
     if (entry != dump.end() && Holds(expectation, actual)) return;
-    ADD_FAILURE_AT(scenario.file.c_str(), line.number)
+    ADD_FAILURE_AT(story.file.c_str(), line.number)
         << expectation.key << "\n  expected: " << expectation.value << "\n  actual:   " << actual;
 }
 

@@ -20,26 +20,26 @@ struct Expectation
     std::optional<double> number, within; // of "near"
 };
 
-struct ScenarioLine
+struct StoryLine
 {
     int number; // in the file, from 1
     std::variant<replay::Action, Expectation> content;
 };
 
-struct Scenario
+struct Story
 {
     std::filesystem::path file;
-    std::vector<ScenarioLine> lines;
+    std::vector<StoryLine> lines;
 };
 
 // All stories, sorted by name.
-std::vector<std::filesystem::path> ScenarioFiles();
+std::vector<std::filesystem::path> StoryFiles();
 
 // Fails the running test where the file does not open with a remark, or a line says nothing known.
-Scenario ReadScenario(const std::filesystem::path& file);
+Story ReadStory(const std::filesystem::path& file);
 
 // Fails the running test with file, line, key, what was expected and what is there.
-void Check(const Scenario& scenario, const ScenarioLine& line, const Expectation& expectation,
+void Check(const Story& story, const StoryLine& line, const Expectation& expectation,
            const replay::Dump& dump);
 
 // The name of a test: the file's name in letters, digits and underscores.
