@@ -6,11 +6,11 @@
 #include "qt/qt_platform.h"
 #include "qt/shell.h"
 #include "replay/action.h"
+#include "virtual_screens.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QMenuBar>
 
 #include <cstdio>
 #include <string>
@@ -95,7 +95,7 @@ struct Order
 {
     QString out, script;
     WindowId window = WindowId::Main;
-    std::string scale = "1";
+    double scale = 1;
 };
 
 std::optional<WindowId> WindowNamed(const QString& name)
@@ -118,7 +118,7 @@ std::optional<Order> Read(const QStringList& words)
         if (++at == words.size()) return std::nullopt;
         bool known = true;
         if (word == "--scale")
-            words[at].toDouble(&known), order.scale = words[at].toStdString();
+            order.scale = words[at].toDouble(&known);
         else if (word == "--script")
             order.script = words[at];
         else if (const auto window = WindowNamed(words[at]); word == "--window" && window)
@@ -127,7 +127,7 @@ std::optional<Order> Read(const QStringList& words)
             known = false;
         if (!known) return std::nullopt;
     }
-    return order.out.isEmpty() ? std::nullopt : std::optional(order);
+    return order.out.isEmpty() || order.scale <= 0 ? std::nullopt : std::optional(order);
 }
 
 bool Play(const QString& script, const Driver& driver)
@@ -155,9 +155,6 @@ int Render(const Order& order)
     StillPlatform platform;
     Shell shell(platform);
     shell.Clockwork().StandStill();
-    // The screen that is not there may be smaller than the layout.
-    shell.Window().resize(kWindowOuter.width, kClientHeight +
-                                                  shell.Window().menuBar()->sizeHint().height());
     shell.Show();
     if (!order.script.isEmpty() && !Play(order.script, {shell.Door(), platform})) return 2;
     if (order.window == WindowId::UserGuide)
@@ -182,8 +179,7 @@ int main(int argc, char** argv)
                    stderr);
         return 2;
     }
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_SCALE_FACTOR", QByteArray::fromStdString(order->scale));
+    const selvane::VirtualScreens screens{{1920, 1200, order->scale}};
     selvane::PrepareApplication();
     QApplication application(argc, argv);
     selvane::SetUpApplication(application);

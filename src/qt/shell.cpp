@@ -25,6 +25,7 @@ void Shell::Show()
     window_.MatchScreen();
     door_.Report([](Simulation& sim) { FirstShowing(sim); });
     window_.show();
+    window_.centralWidget()->setFocus(); // no control has it before the user's first Tab
     window_.windowHandle()->installEventFilter(this);
     window_.activateWindow(); // a desktop without a window manager activates nothing by itself
 }
