@@ -2,6 +2,7 @@
 
 #include "app/controls.h"
 #include "qt/appearance.h"
+#include "qt/focus_frame.h"
 #include "qt/rich_text_document.h"
 
 #include <QKeyEvent>
@@ -180,15 +181,18 @@ bool HelpPaneWidget::event(QEvent* event)
     return done;
 }
 
-// A thin grey line; with the focus, a thick one in the colour of selections.
+// A thin grey line; with the focus, the frame that all controls have.
 void HelpPaneWidget::PaintOutline()
 {
+    if (hasFocus()) {
+        DrawFocusFrame(*this);
+        return;
+    }
     QPainter painter(this);
-    const QRect whole = rect().adjusted(0, 0, -1, -1);
-    painter.setPen(hasFocus() ? kFocusColour : kFrameColour);
-    painter.drawRect(whole);
-    painter.setPen(hasFocus() ? kFocusColour : palette().color(QPalette::Base));
-    painter.drawRect(whole.adjusted(1, 1, -1, -1));
+    painter.setClipRegion(QRegion(rect()) - contentsRect());
+    painter.fillRect(rect(), palette().color(QPalette::Base));
+    painter.setClipRegion(QRegion(rect()) - rect().adjusted(1, 1, -1, -1));
+    painter.fillRect(rect(), kFrameColour);
 }
 
 } // namespace selvane

@@ -226,15 +226,14 @@ private:
         cursor_.insertImage(format);
     }
 
-    // The first paragraph of a cell, or after a table, fills the one that stands there.
+    // The first paragraph of a cell, or after a table, fills the one that stands there. Its own
+    // character format is left alone: in a cell, that is where the toolkit keeps the cell's.
     void Begin(const QTextBlockFormat& block, const QTextCharFormat& format)
     {
-        if (fresh_) {
+        if (fresh_)
             cursor_.setBlockFormat(block);
-            cursor_.setBlockCharFormat(format);
-        } else {
+        else
             cursor_.insertBlock(block, format);
-        }
         fresh_ = false;
     }
 
@@ -245,7 +244,7 @@ private:
         Begin(BlockFormatOf(paragraph), CharFormatOf(first));
         if (paragraph.item && !paragraph.item->label.empty()) {
             CharacterFormat label = first;
-            label.underline = label.strike = false;
+            label.bold = label.italic = label.underline = label.strike = false;
             cursor_.insertText(ToText(paragraph.item->label) + u'\t', CharFormatOf(label));
         }
         for (const Run& run : paragraph.runs) WriteRun(run);
@@ -290,7 +289,7 @@ private:
         if (placed.rows > 1 || placed.columns > 1)
             table.mergeCells(placed.row, placed.column, placed.rows, placed.columns);
         QTextTableCell cell = table.cellAt(placed.row, placed.column);
-        QTextTableCellFormat format;
+        QTextTableCellFormat format = cell.format().toTableCellFormat(); // knows what is merged
         if (placed.format->background) format.setBackground(ColourOf(*placed.format->background));
         if (placed.format->bordered) {
             format.setBorder(1);
