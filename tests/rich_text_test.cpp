@@ -175,7 +175,7 @@ TEST(RichTextCharacters, UnicodeAndWhatItReplaces)
         {R"({\uc0\u960?}\u960?x)", "π?πx"},
         {R"({\uc-7\u960?\uc99999\u960 gone}x)", "π?πx"},
         {R"({\upr{ascii}{\*\ud\uc0\u945\u946}}c)", "αβc"},
-        {R"(\u-3913?)", "\uF0B7"},
+        {R"(\u-3913?\u9?\u8232?\u8233?\u7?x)", "\uF0B7\t||x"},
     });
 }
 
@@ -499,6 +499,9 @@ TEST(RichTextLimits, ReadingStopsAndKeepsWhatItHas)
     const RichText many = Read(Repeat("\\b a\\b0 c", 1'000'000));
     EXPECT_LE(ParagraphAt(many, 0).runs.size(), 1'000'000u);
     EXPECT_EQ(PlainText(many.blocks).size(), 2'000'001u);
+    EXPECT_EQ(
+        Read("{\\field{\\fldinst HYPERLINK a}" + Repeat("{\\fldrslt b}", 999) + "}").links.size(),
+        1u);
     std::string fonts = "{\\fonttbl";
     for (int i = 0; i < 70'000; ++i) fonts += "{\\f" + std::to_string(i) + " A;}";
     EXPECT_EQ(Read(fonts + "}x").fonts.size(), 65'536u);

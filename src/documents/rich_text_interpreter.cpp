@@ -270,7 +270,7 @@ void RichTextInterpreter::EmitUnicode(char32_t character)
         const char byte = static_cast<char>(character & 0xFF);
         return Decode({&byte, 1});
     }
-    if (character == 0x0B || character == 0x2028) return EmitCharacter('\n');
+    if (character == 0x0B || character == 0x2028 || character == 0x2029) return EmitCharacter('\n');
     const bool isText = (character >= 0x20 && character != 0x7F && character < 0xFFFE) ||
                         character == '\t' || character > 0xFFFF;
     if (isText) EmitCharacter(character);

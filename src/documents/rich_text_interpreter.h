@@ -86,6 +86,8 @@ private:
     {
         std::string instruction;
         std::size_t shownBefore = 0; // shown_ when the field began
+        bool hasResult = false;
+        std::int32_t link = -1; // what its result links to, known from the first result on
     };
 
     // The body, or a text box in it.
@@ -127,6 +129,7 @@ private:
     void EndDestination(Destination destination);
     void EndPicture();
     void EndField();
+    std::int32_t LinkOf(const std::string& instruction);
     void EmitSymbolField();
     void EndTextBox();
 

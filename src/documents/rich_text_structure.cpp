@@ -133,7 +133,7 @@ void RichTextInterpreter::NestedTableProperties(const Token&, std::int32_t)
 void RichTextInterpreter::StartField(const Token&, std::int32_t)
 {
     if (unsavedDepth_ > 0 || state_.endsField || saved_.size() <= 1) return;
-    fields_.push_back({{}, shown_});
+    fields_.push_back({{}, shown_, false, -1});
     state_.endsField = true;
 }
 
@@ -146,10 +146,17 @@ void RichTextInterpreter::StartFieldInstruction(const Token& token, std::int32_t
 void RichTextInterpreter::StartFieldResult(const Token&, std::int32_t)
 {
     if (fields_.empty() || !IsInBody()) return;
-    std::string target = LinkTarget(fields_.back().instruction);
-    if (target.empty() || document_.links.size() >= kMaxLinks) return;
+    Field& field = fields_.back();
+    if (!std::exchange(field.hasResult, true)) field.link = LinkOf(field.instruction);
+    if (field.link >= 0) state_.link = field.link;
+}
+
+std::int32_t RichTextInterpreter::LinkOf(const std::string& instruction)
+{
+    std::string target = LinkTarget(instruction);
+    if (target.empty() || document_.links.size() >= kMaxLinks) return -1;
     document_.links.push_back(std::move(target));
-    state_.link = static_cast<std::int32_t>(document_.links.size()) - 1;
+    return static_cast<std::int32_t>(document_.links.size()) - 1;
 }
 
 void RichTextInterpreter::EndField()
