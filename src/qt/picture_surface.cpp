@@ -6,7 +6,10 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <functional>
+#include <utility>
 
 namespace selvane {
 
@@ -35,6 +38,7 @@ void PictureSurface::SetDeviceScale(double scale)
     height_ = height;
     scale_ = scale;
     masks_.clear();
+    shown_ = {~frame_.digest, 0, 0, 0, 0, false}; // all of it is new
     drawn_ = true;
 }
 
@@ -46,7 +50,38 @@ QImage PictureSurface::Image() const
     return image;
 }
 
-bool PictureSurface::TakeDrawn() { return std::exchange(drawn_, false); }
+QRect PictureSurface::TakeChanged()
+{
+    if (!std::exchange(drawn_, false)) return {};
+    const Frame before = std::exchange(shown_, frame_);
+    if (before.digest != frame_.digest) return {0, 0, Width, Height};
+    return BoxOf(before) | BoxOf(frame_);
+}
+
+QRect PictureSurface::BoxOf(const Frame& frame) const
+{
+    if (!frame.hasDots) return {};
+    const double reach = scale_ + 1; // of a dot, and of rounding to whole pixels
+    const QRectF box(QPointF(frame.left - reach, frame.top - reach) / scale_,
+                     QPointF(frame.right + reach, frame.bottom + reach) / scale_);
+    return (box & QRectF(0, 0, Width, Height)).toAlignedRect();
+}
+
+void PictureSurface::Frame::Add(std::initializer_list<double> stroke)
+{
+    constexpr std::uint64_t kPrime = 0x100000001b3; // of the 64-bit FNV-1a hash
+    for (const double number : stroke)
+        digest = (digest ^ std::bit_cast<std::uint64_t>(number)) * kPrime;
+}
+
+void PictureSurface::Frame::AddDot(DevicePoint centre)
+{
+    left = hasDots ? std::min(left, centre.x) : centre.x;
+    right = hasDots ? std::max(right, centre.x) : centre.x;
+    top = hasDots ? std::min(top, centre.y) : centre.y;
+    bottom = hasDots ? std::max(bottom, centre.y) : centre.y;
+    hasDots = true;
+}
 
 Canvas PictureSurface::Target()
 {
@@ -66,16 +101,25 @@ double PictureSurface::Length(float userUnits) const
     return std::fabs(userUnits * (Width / ScaleWidth)) * scale_;
 }
 
-void PictureSurface::OnCls() { Clear(Target(), background_); }
+void PictureSurface::OnCls()
+{
+    Clear(Target(), background_);
+    frame_ = {};
+}
 
 void PictureSurface::OnLine(float x1, float y1, float x2, float y2, Colour colour)
 {
-    DrawLine(Target(), Place(x1, y1), Place(x2, y2), scale_, PixelOf(colour));
+    const DevicePoint from = Place(x1, y1);
+    const DevicePoint to = Place(x2, y2);
+    frame_.Add({from.x, from.y, to.x, to.y, 1.0 * PixelOf(colour)});
+    DrawLine(Target(), from, to, scale_, PixelOf(colour));
 }
 
 void PictureSurface::OnPoint(float x, float y, Colour colour)
 {
-    FillSquare(Target(), Place(x, y), std::max(1, qRound(scale_)), PixelOf(colour));
+    const DevicePoint centre = Place(x, y);
+    frame_.AddDot(centre);
+    FillSquare(Target(), centre, std::max(1, qRound(scale_)), PixelOf(colour));
 }
 
 // An outline is one pixel of the picture wide, half of it on either side of the edge.
@@ -85,6 +129,8 @@ void PictureSurface::OnCircle(float x, float y, float radius, Colour outline,
     const Canvas canvas = Target();
     const DevicePoint centre = Place(x, y);
     const double size = Length(radius);
+    frame_.Add({centre.x, centre.y, size, 1.0 * PixelOf(outline),
+                fill ? 1.0 * PixelOf(*fill) : 0.0});
     if (!fill) {
         DrawRing(canvas, centre, size, scale_, PixelOf(outline));
         return;
@@ -98,6 +144,7 @@ void PictureSurface::OnArc(float x, float y, float radius, Colour outline, doubl
     const DevicePoint centre = Place(x, y);
     const double size = Length(radius);
     const Pixel pixel = PixelOf(outline);
+    frame_.Add({centre.x, centre.y, size, 1.0 * pixel, start, end});
     DrawArc(Target(), centre, size, scale_, {std::fabs(start), std::fabs(end)}, pixel);
     for (const double angle : {start, end})
         if (angle < 0) Spoke(centre, size, -angle, pixel);
@@ -115,6 +162,8 @@ void PictureSurface::OnSector(float x, float y, float radius, Colour outline,
     const double size = Length(radius);
     const double half = scale_ / 2;
     const Wedge wedge{-start, -end};
+    frame_.Add({centre.x, centre.y, size, 1.0 * PixelOf(outline), 1.0 * PixelOf(*fill), start,
+                end});
     FillSector(canvas, centre, size + half, wedge, half, PixelOf(outline));
     if (*fill != outline) FillSector(canvas, centre, size - half, wedge, -half, PixelOf(*fill));
 }
@@ -130,6 +179,8 @@ void PictureSurface::OnText(float x, float y, Colour colour, std::string_view te
 {
     const DevicePoint place = Place(x, y);
     const TextMask& mask = MaskOf(text);
+    frame_.Add({place.x, place.y, 1.0 * PixelOf(colour),
+                static_cast<double>(std::hash<std::string_view>()(text))});
     const double half = scale_ / 2; // a text's corner is a corner of its pixel
     DrawMask(Target(), qRound(place.x - half), qRound(place.y - half),
              {mask.coverage, mask.width, mask.height}, PixelOf(colour));

@@ -9,7 +9,9 @@
 
 #include <QHash>
 #include <QImage>
+#include <QRect>
 
+#include <initializer_list>
 #include <vector>
 
 namespace selvane {
@@ -26,8 +28,9 @@ public:
     // The picture as drawn so far; valid until the surface is drawn on or scaled.
     QImage Image() const;
 
-    // Whether anything was drawn since the last call.
-    bool TakeDrawn();
+    // Where the picture differs from what it was at the last call, in pixels of the picture; empty
+    // where nothing was drawn. Never too small, but it may be too large.
+    QRect TakeChanged();
 
 protected:
     void OnCls() override;
@@ -41,12 +44,25 @@ protected:
     void OnText(float x, float y, Colour colour, std::string_view text) override;
 
 private:
+    // What was drawn since the last Cls, as far as it tells where two frames differ: dots by where
+    // they lie, since they are many and move, all else by a digest, since it mostly stays.
+    struct Frame
+    {
+        std::uint64_t digest = 0;
+        double left = 0, top = 0, right = 0, bottom = 0; // device pixels
+        bool hasDots = false;
+
+        void Add(std::initializer_list<double> stroke);
+        void AddDot(DevicePoint centre);
+    };
+
     struct TextMask
     {
         std::vector<std::uint8_t> coverage;
         int width = 0, height = 0;
     };
 
+    QRect BoxOf(const Frame& frame) const;
     Canvas Target();
     DevicePoint Place(float x, float y) const;
     double Length(float userUnits) const;
@@ -58,6 +74,7 @@ private:
     int width_ = 0, height_ = 0; // device pixels
     std::vector<Pixel> pixels_;
     QHash<QByteArray, TextMask> masks_;
+    Frame frame_, shown_;
     bool drawn_ = true;
 };
 

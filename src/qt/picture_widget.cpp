@@ -17,7 +17,8 @@ PictureWidget::PictureWidget(PictureSurface& surface, const PictureRow& row, QWi
 
 void PictureWidget::ShowFrame()
 {
-    if (surface_.TakeDrawn()) update(QRegion(rect()) - covered_);
+    const QRect changed = surface_.TakeChanged();
+    if (!changed.isEmpty()) update(QRegion(changed) - covered_);
 }
 
 void PictureWidget::MatchScreen() { surface_.SetDeviceScale(devicePixelRatioF()); }

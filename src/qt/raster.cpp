@@ -11,17 +11,6 @@ namespace selvane {
 
 namespace {
 
-constexpr std::uint32_t kWhole = 256; // weight of a colour that replaces what is below
-
-Pixel Mix(Pixel below, Pixel above, std::uint32_t weight)
-{
-    constexpr Pixel kRedAndBlue = 0x00ff00ffU, kGreen = 0x0000ff00U;
-    const std::uint32_t rest = kWhole - weight;
-    const Pixel redBlue = ((below & kRedAndBlue) * rest + (above & kRedAndBlue) * weight) >> 8;
-    const Pixel green = ((below & kGreen) * rest + (above & kGreen) * weight) >> 8;
-    return 0xff000000U | (redBlue & kRedAndBlue) | (green & kGreen);
-}
-
 struct Segment
 {
     DevicePoint from, to;
@@ -78,37 +67,11 @@ void SmoothLine(DevicePoint from, DevicePoint to, double thickness, Pixel pixel,
 
 } // namespace
 
-int WholeBelow(double coordinate)
-{
-    constexpr double kFarOutside = 1e8;
-    return static_cast<int>(std::floor(std::clamp(coordinate, -kFarOutside, kFarOutside)));
-}
-
-int NearestWhole(double coordinate) { return WholeBelow(coordinate + 0.5); }
-
-Run Clipped(Run run, int limit) { return {std::max(run.first, 0), std::min(run.end, limit)}; }
-
-Run CentresWithin(double low, double high)
-{
-    return {-WholeBelow(0.5 - low), WholeBelow(high - 0.5) + 1};
-}
-
-void FillRun(Pixel* row, Run run, Pixel pixel)
-{
-    if (!run.IsEmpty()) std::fill(row + run.first, row + run.end, pixel);
-}
-
 void FillBlock(const Canvas& canvas, Run across, Run down, Pixel pixel)
 {
     across = Clipped(across, canvas.width);
     down = Clipped(down, canvas.height);
     for (int y = down.first; y < down.end; ++y) FillRun(canvas.Row(y), across, pixel);
-}
-
-void Blend(Pixel& below, Pixel above, double coverage)
-{
-    const double weight = std::clamp(coverage, 0.0, 1.0) * kWhole;
-    below = Mix(below, above, static_cast<std::uint32_t>(weight));
 }
 
 void Clear(const Canvas& canvas, Pixel pixel)

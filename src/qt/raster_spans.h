@@ -1,13 +1,23 @@
-// What the rasterisers share: whole pixels from coordinates, runs of pixels, and mixing.
+// What the rasterisers share: whole pixels from coordinates, runs of pixels, and mixing. Inline,
+// as a frame asks for them some thousand times.
 #pragma once
 
 #include "qt/raster.h"
 
+#include <algorithm>
+
 namespace selvane {
 
 // The whole number at or below a coordinate of any size.
-int WholeBelow(double coordinate);
-int NearestWhole(double coordinate);
+inline int WholeBelow(double coordinate)
+{
+    constexpr double kFarOutside = 1e8;
+    const double bounded = std::clamp(coordinate, -kFarOutside, kFarOutside);
+    const int towardsZero = static_cast<int>(bounded);
+    return towardsZero - (towardsZero > bounded ? 1 : 0);
+}
+
+inline int NearestWhole(double coordinate) { return WholeBelow(coordinate + 0.5); }
 
 // Pixels from `first` up to, not including, `end`.
 struct Run
@@ -17,15 +27,41 @@ struct Run
     bool IsEmpty() const { return first >= end; }
 };
 
-Run Clipped(Run run, int limit);
+inline Run Clipped(Run run, int limit)
+{
+    return {std::max(run.first, 0), std::min(run.end, limit)};
+}
 
 // The pixels whose centres lie from `low` to `high`, both included.
-Run CentresWithin(double low, double high);
+inline Run CentresWithin(double low, double high)
+{
+    return {-WholeBelow(0.5 - low), WholeBelow(high - 0.5) + 1};
+}
 
-void FillRun(Pixel* row, Run run, Pixel pixel);
+inline void FillRun(Pixel* row, Run run, Pixel pixel)
+{
+    if (!run.IsEmpty()) std::fill(row + run.first, row + run.end, pixel);
+}
+
 void FillBlock(const Canvas& canvas, Run across, Run down, Pixel pixel);
 
+// The weight of a colour that replaces what is below; 0 leaves that.
+inline constexpr std::uint32_t kWhole = 256;
+
+inline Pixel Mix(Pixel below, Pixel above, std::uint32_t weight)
+{
+    constexpr Pixel kRedAndBlue = 0x00ff00ffU, kGreen = 0x0000ff00U;
+    const std::uint32_t rest = kWhole - weight;
+    const Pixel redBlue = ((below & kRedAndBlue) * rest + (above & kRedAndBlue) * weight) >> 8;
+    const Pixel green = ((below & kGreen) * rest + (above & kGreen) * weight) >> 8;
+    return 0xff000000U | (redBlue & kRedAndBlue) | (green & kGreen);
+}
+
 // A coverage of 0 or less leaves the pixel, 1 or more replaces it.
-void Blend(Pixel& below, Pixel above, double coverage);
+inline void Blend(Pixel& below, Pixel above, double coverage)
+{
+    const double weight = std::clamp(coverage, 0.0, 1.0) * kWhole;
+    below = Mix(below, above, static_cast<std::uint32_t>(weight));
+}
 
 } // namespace selvane
