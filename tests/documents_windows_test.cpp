@@ -1,13 +1,8 @@
 // The user guide and the about box without their windows: what a click loads, opens or starts.
-#include "app/help_pane.h"
-#include "app/simulation.h"
-#include "documents/about_box.h"
-#include "documents/rich_text.h"
-#include "documents/user_guide.h"
+#include "bench.h"
 
 #include <gtest/gtest.h>
 #include <map>
-#include <set>
 
 using namespace selvane;
 
@@ -17,37 +12,30 @@ const std::string kTool = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
 const std::string kToolFolder = "SOFTWARE\\Microsoft\\Shared Tools Location";
 
 // A machine with a registry of text keys; notes what it is asked, in order.
-class FakeMachine : public Platform
+class Machine : public FakePlatform
 {
 public:
     std::map<std::string, RegistryValue> registry; // by "key|value"
-    std::set<std::string, std::less<>> documents, files, startable;
+    std::set<std::string> files, startable;
     std::vector<std::string> asked;
     int keysOpen = 0;
 
-    LocalTime Now() const override { return {}; }
-    std::optional<std::string> ReadDocument(std::string_view name) const override
-    {
-        if (!documents.contains(name)) return std::nullopt;
-        return std::string(name);
-    }
-    void OpenLink(std::string_view target) override { Note("open ", target); }
     bool StartProgram(const std::string& path) override
     {
-        Note("start ", path);
+        asked.push_back("start " + path);
         return startable.contains(path);
     }
     bool FileExists(const std::string& path) const override { return files.contains(path); }
     void ShowMessage(std::string_view text, std::string_view title) override
     {
-        Note(std::string(title) + ": ", text);
+        asked.push_back(std::string(title) + ": " + std::string(text));
     }
     std::optional<RegistryKey> OpenKey(std::uint32_t root, const std::string& path,
                                        std::uint32_t access) override
     {
         EXPECT_EQ(root, 0x80000002);
         EXPECT_EQ(access, 0x2003F);
-        Note("key ", path);
+        asked.push_back("key " + path);
         if (!registry.contains(path)) return std::nullopt;
         ++keysOpen;
         opened_ = path;
@@ -73,29 +61,13 @@ public:
 
 private:
     std::string opened_;
-
-    void Note(const std::string& what, std::string_view which)
-    {
-        asked.push_back(what + std::string(which));
-    }
 };
 
 struct Desk
 {
-    DrawingSurface pictures[2]{{800, 600}, {400, 300}};
-    FakeMachine machine;
-    Wiring wiring;
-    Simulation sim{pictures[0], pictures[1], machine, wiring};
-
-    Desk()
-    {
-        for (const TopicRow& row : TopicTable()) machine.documents.emplace(row.document);
-        wiring.load[Index(WindowId::About)] = frmAbout::Form_Load;
-        wiring.activate[Index(WindowId::UserGuide)] = frmUserGuide::Form_Activate;
-        wiring.readRichText = [](const std::string&) { return std::make_shared<const RichText>(); };
-        ShowWindow(sim, WindowId::Main);
-    }
-    const HelpPane& Pane() const { return sim.windows.frmUserGuide.txtHelp; }
+    Recorder pictures[2]{{800, 600}, {400, 300}};
+    Machine machine;
+    Simulation sim{pictures[0], pictures[1], machine, TheWiring()};
 };
 
 using Strings = std::vector<std::string>;
@@ -110,33 +82,35 @@ TEST(UserGuide, EachTopicLoadsItsDocument)
         {"Main Display", "MainDisplay.rtf"},        {"Orbital Energies", "Energy.rtf"},
         {"Orbit Shape", "OrbitShape.rtf"},          {"Orbit Position", "OrbitPosition.rtf"},
         {"Orbit Parameters", "OrbitParameters.rtf"}};
-    Desk desk;
+    Bench desk;
     mnUserGuide_Click(desk.sim);
-    EXPECT_EQ(desk.Pane().document, "Introduction.rtf");
+    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Introduction.rtf");
     ASSERT_EQ(TopicTable().size(), expected.size());
     for (const TopicRow& row : TopicTable()) {
         frmUserGuide::Topic_Click(desk.sim, row.topic);
-        EXPECT_EQ(desk.Pane().document, expected.at(std::string(row.caption)));
+        EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document,
+                  expected.at(std::string(row.caption)));
         EXPECT_EQ(row.name.substr(0, 3), "lbl");
     }
 }
 
 TEST(UserGuide, AReturnGoesBackToTheIntroductionButAClickInTheMenuDoesNot)
 {
-    Desk desk;
+    Bench desk;
     mnUserGuide_Click(desk.sim);
     frmUserGuide::Topic_Click(desk.sim, Topic::lblEnergy);
     mnUserGuide_Click(desk.sim); // active already
-    EXPECT_EQ(desk.Pane().document, "Energy.rtf");
+    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Energy.rtf");
     ActivateWindow(desk.sim, WindowId::Main);
-    EXPECT_EQ(desk.Pane().document, "Energy.rtf");
+    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Energy.rtf");
     ActivateWindow(desk.sim, WindowId::UserGuide);
-    EXPECT_EQ(desk.Pane().document, "Introduction.rtf");
-    desk.machine.documents.clear();
-    const unsigned loads = desk.Pane().loads;
+    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Introduction.rtf");
+    desk.platform.missing = {"Terminology.rtf"};
+    const unsigned loads = desk.sim.windows.frmUserGuide.txtHelp.loads;
     frmUserGuide::Topic_Click(desk.sim, Topic::lblTerminology);
-    EXPECT_EQ(desk.Pane().document, "Introduction.rtf") << "a missing document leaves the pane";
-    EXPECT_EQ(desk.Pane().loads, loads);
+    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Introduction.rtf")
+        << "a missing document leaves the pane";
+    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.loads, loads);
 }
 
 TEST(UserGuide, ThePaneFollowsTheOuterSizeAndStopsAtNothing)
@@ -149,7 +123,7 @@ TEST(UserGuide, ThePaneFollowsTheOuterSizeAndStopsAtNothing)
 
 TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
 {
-    Desk desk;
+    Bench desk;
     mnAbout_Click(desk.sim);
     const AboutWindow& box = desk.sim.windows.frmAbout;
     EXPECT_EQ(box.caption, "About Selvane");
@@ -163,12 +137,12 @@ TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
 
 TEST(AboutBox, EachLinkOpensOnce)
 {
-    Desk desk;
+    Bench desk;
     mnAbout_Click(desk.sim);
     frmAbout::LblWebsite_Click(desk.sim);
     frmAbout::Label1_Click(desk.sim);
-    EXPECT_EQ(desk.machine.asked, (Strings{"open https://selvane.example.org",
-                                           "open mailto:contact@selvane.example.org"}));
+    EXPECT_EQ(desk.platform.opened,
+              (Strings{"https://selvane.example.org", "mailto:contact@selvane.example.org"}));
     EXPECT_TRUE(IsActive(desk.sim, WindowId::About));
 }
 

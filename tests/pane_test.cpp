@@ -1,0 +1,300 @@
+// The rich-text pane, the user guide and the about box as a user meets them.
+#include "app/help_pane.h"
+#include "bench.h"
+#include "documents/rich_text.h"
+#include "qt/about_window.h"
+#include "qt/dispatch.h"
+#include "qt/help_pane_widget.h"
+#include "qt/user_guide_window.h"
+
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextTable>
+#include <gtest/gtest.h>
+
+using namespace selvane;
+
+namespace {
+
+constexpr auto kNone = Qt::NoModifier;
+
+// A document with its words, links between angle brackets: "see <Energy.rtf>".
+HelpPane PaneOf(const std::string& body, unsigned loads = 1)
+{
+    std::string rtf = "{\\rtf1{\\colortbl;\\red200\\green0\\blue0;}\\fs20 ";
+    for (const char c : body) {
+        if (c == '<')
+            rtf += "{\\field{\\*\\fldinst HYPERLINK \"";
+        else if (c == '>')
+            rtf += "\"}{\\fldrslt link}}";
+        else
+            rtf += c;
+    }
+    return {"Test.rtf", TheWiring().readRichText(rtf + "}"), loads};
+}
+
+std::string Long()
+{
+    std::string body;
+    for (int i = 0; i < 80; ++i) body += "line " + std::to_string(i) + "\\par ";
+    return body;
+}
+
+struct Pane
+{
+    HelpPaneWidget widget;
+    QSignalSpy documents{&widget, &HelpPaneWidget::documentLinkClicked};
+    QSignalSpy webs{&widget, &HelpPaneWidget::webLinkClicked};
+
+    Pane()
+    {
+        widget.resize(400, 256);
+        widget.show();
+        widget.activateWindow();
+        widget.setFocus();
+    }
+    void Click() // on the first word
+    {
+        QTest::mouseClick(widget.viewport(), Qt::LeftButton, kNone, QPoint(16, 20));
+    }
+    void Key(Qt::Key key, Qt::KeyboardModifiers held = kNone)
+    {
+        QTest::keyClick(&widget, key, held);
+    }
+    int Top() const { return widget.verticalScrollBar()->value(); }
+    QTextCharFormat FormatAt(int position) const
+    {
+        QTextCursor cursor(widget.document());
+        cursor.setPosition(position + 1);
+        return cursor.charFormat();
+    }
+};
+
+// A secondary window that is made to match its record after each event.
+template <typename Frame> struct Opened
+{
+    Bench bench;
+    Dispatch door{bench.sim};
+    Frame frame{door};
+
+    explicit Opened(MenuId item)
+    {
+        QObject::connect(&door, &Dispatch::settled, &frame, [this] { frame.Mirror(bench.sim); });
+        door.Act(WindowId::Main, [item](Simulation& sim) { Choose(sim, item); });
+        frame.show();
+        frame.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&frame));
+    }
+    QWidget* Find(std::string_view name) const
+    {
+        return frame.template findChild<QWidget*>(QLatin1String(name.data(), int(name.size())));
+    }
+    void Press(std::string_view name, Qt::Key key)
+    {
+        Find(name)->setFocus();
+        QTest::keyClick(Find(name), key);
+    }
+    void Click(std::string_view name)
+    {
+        QTest::mouseClick(Find(name), Qt::LeftButton, kNone, {4, 4});
+    }
+};
+
+} // namespace
+
+TEST(Pane, OnlyLinksToADocumentOfTheFolderAndToTheWebLead)
+{
+    struct Case
+    {
+        std::string link, document, web;
+    };
+    for (const Case& c : {Case{"Energy.rtf", "Energy.rtf", ""},
+                          {"Help%2820%29.rtf", "Help(20).rtf", ""},
+                          {"./Energy.rtf#top", "Energy.rtf", ""},
+                          {"https://a.example.org/b?c=1", "", "https://a.example.org/b?c=1"},
+                          {"../Energy.rtf", "", ""},
+                          {"%2e%2e%2fEnergy.rtf", "", ""},
+                          {"file:///home/Energy.rtf", "", ""},
+                          {"mailto:a@example.org", "", ""},
+                          {"javascript:1", "", ""},
+                          {"https:", "", ""},
+                          {"#Energy", "", ""}}) {
+        Pane pane;
+        pane.widget.ShowPane(PaneOf("<" + c.link + "> words"));
+        pane.Click();
+        pane.Key(Qt::Key_Tab);
+        pane.Key(Qt::Key_Return); // the same link again
+        const auto said = [](const QSignalSpy& spy) {
+            return spy.isEmpty() ? std::string() : spy.back().front().toString().toStdString();
+        };
+        EXPECT_EQ(said(pane.documents), c.document) << c.link;
+        EXPECT_EQ(said(pane.webs), c.web) << c.link;
+        EXPECT_EQ(pane.documents.size() + pane.webs.size(),
+                  c.document.empty() && c.web.empty() ? 0 : 2)
+            << c.link;
+        EXPECT_TRUE(pane.widget.toPlainText().endsWith("words"));
+    }
+}
+
+TEST(Pane, ALoadStartsAtTheTopAndTheSameOneTouchesNothing)
+{
+    Pane pane;
+    const HelpPane record = PaneOf(Long());
+    pane.widget.ShowPane(record);
+    for (const auto& [key, back] : {std::pair{Qt::Key_Down, Qt::Key_Up},
+                                    {Qt::Key_PageDown, Qt::Key_PageUp},
+                                    {Qt::Key_End, Qt::Key_Home}}) {
+        EXPECT_EQ(pane.Top(), 0);
+        pane.Key(key);
+        EXPECT_GT(pane.Top(), 0) << key;
+        pane.Key(back);
+    }
+    pane.Key(Qt::Key_End);
+    pane.Key(Qt::Key_A, Qt::ControlModifier);
+    const int bottom = pane.Top();
+    pane.widget.ShowPane(record);
+    EXPECT_EQ(pane.Top(), bottom);
+    EXPECT_TRUE(pane.widget.textCursor().hasSelection());
+    HelpPane again = record;
+    ++again.loads;
+    pane.widget.ShowPane(again);
+    EXPECT_EQ(pane.Top(), 0);
+    EXPECT_FALSE(pane.widget.textCursor().hasSelection());
+    Empty(again);
+    pane.widget.ShowPane(again);
+    EXPECT_EQ(pane.widget.toPlainText(), "");
+}
+
+TEST(Pane, FormattingArrivesAndGrowsWithTheZoom)
+{
+    Pane pane;
+    pane.widget.ShowPane(PaneOf("{\\b b}{\\i i}{\\ul u}{\\strike s}{\\super 2}{\\cf1 r}n\\par "
+                                "\\pard\\qc\\li300\\sa150 centred\\par"));
+    EXPECT_EQ(pane.FormatAt(0).fontWeight(), QFont::Bold);
+    EXPECT_TRUE(pane.FormatAt(1).fontItalic());
+    EXPECT_TRUE(pane.FormatAt(2).fontUnderline());
+    EXPECT_TRUE(pane.FormatAt(3).fontStrikeOut());
+    EXPECT_EQ(pane.FormatAt(4).verticalAlignment(), QTextCharFormat::AlignSuperScript);
+    EXPECT_EQ(pane.FormatAt(5).foreground().color(), QColor(200, 0, 0));
+    EXPECT_FALSE(pane.FormatAt(6).hasProperty(QTextFormat::ForegroundBrush)) << "automatic";
+    const auto size = [&] { return pane.FormatAt(6).intProperty(QTextFormat::FontPixelSize); };
+    EXPECT_EQ(size(), 13); // 10 points
+    const QTextBlockFormat centred = pane.widget.document()->lastBlock().blockFormat();
+    EXPECT_EQ(centred.alignment(), Qt::AlignHCenter);
+    EXPECT_EQ(centred.leftMargin(), 20);
+    EXPECT_EQ(centred.bottomMargin(), 10);
+    for (int i = 0; i < 10; ++i) pane.Key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(size(), 27);
+    EXPECT_EQ(pane.FormatAt(0).fontWeight(), QFont::Bold);
+    for (int i = 0; i < 40; ++i) pane.Key(Qt::Key_Minus, Qt::ControlModifier);
+    EXPECT_EQ(pane.widget.ZoomPercent(), 50);
+    pane.Key(Qt::Key_0, Qt::ControlModifier);
+    EXPECT_EQ(size(), 13);
+    QWheelEvent turn({50, 50}, {50, 50}, {}, {0, 120}, Qt::NoButton, Qt::ControlModifier,
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(pane.widget.viewport(), &turn);
+    EXPECT_EQ(pane.widget.ZoomPercent(), 110);
+}
+
+TEST(Pane, KeysSelectAndZoomKeepsTheSelection)
+{
+    Pane pane;
+    pane.widget.ShowPane(PaneOf("one two three\\par four"));
+    pane.Key(Qt::Key_Right, Qt::ShiftModifier | Qt::ControlModifier);
+    pane.Key(Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(pane.widget.textCursor().selectedText(), "one t");
+    pane.Key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(pane.widget.textCursor().selectedText(), "one t");
+    pane.Key(Qt::Key_X);
+    pane.Key(Qt::Key_Delete);
+    EXPECT_EQ(pane.widget.toPlainText(), "one two three\nfour") << "read only";
+}
+
+TEST(Pane, TablesStandInAGridAndBrokenPicturesInAFrame)
+{
+    Pane pane;
+    pane.widget.ShowPane(PaneOf("\\trowd\\clmgf\\cellx1500\\clmrg\\cellx3000\\clvmgf\\cellx4500\\in"
+                                "tbl a\\cell\\cell c\\cell\\row"
+                                "\\trowd\\clcbpat1\\cellx1000\\cellx3000\\clvmrg\\cellx4500\\intbl "
+                                "d\\cell e\\cell\\cell\\row\\pard "
+                                "{\\pict\\pngblip\\picwgoal30000\\pichgoal15000 00ff}"));
+    QTextCursor cursor(pane.widget.document());
+    cursor.setPosition(1);
+    const QTextTable* table = cursor.currentTable();
+    ASSERT_NE(table, nullptr);
+    EXPECT_EQ(table->columns(), 4); // edges at 1000, 1500, 3000 and 4500
+    EXPECT_EQ(table->cellAt(0, 0).columnSpan(), 3);
+    EXPECT_EQ(table->cellAt(0, 3).rowSpan(), 2);
+    EXPECT_EQ(table->cellAt(1, 0).format().background().color(), QColor(200, 0, 0));
+    EXPECT_EQ(table->cellAt(1, 1).firstCursorPosition().block().text(), "e");
+    const int shown = int(pane.widget.document()->size().width());
+    EXPECT_LE(shown, pane.widget.viewport()->width()) << "a wide picture is held to the pane";
+}
+
+TEST(UserGuideFrame, TopicsAreLinksForMouseAndKeys)
+{
+    Opened<UserGuideFrame> guide(mnUserGuide);
+    auto* pane = guide.frame.findChild<HelpPaneWidget*>("txtHelp");
+    EXPECT_EQ(pane->toPlainText(), "Introduction.rtf");
+    for (const TopicRow& row : TopicTable()) {
+        for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_unknown}) {
+            guide.Click("lblIntroduction");
+            if (key == Qt::Key_unknown)
+                guide.Click(row.name);
+            else
+                guide.Press(row.name, key);
+            EXPECT_EQ(pane->toPlainText().toStdString(), row.document);
+        }
+    }
+    emit pane->documentLinkClicked("Molniya.rtf");
+    EXPECT_EQ(pane->toPlainText(), "Molniya.rtf");
+    emit pane->webLinkClicked("https://a.example.org");
+    EXPECT_EQ(guide.bench.platform.opened.back(), "https://a.example.org");
+}
+
+TEST(UserGuideFrame, ThePaneFollowsTheWindowAndNothingElseMoves)
+{
+    Opened<UserGuideFrame> guide(mnUserGuide);
+    for (const QSize size : {QSize(600, 700), QSize(450, 300), QSize(20, 90)}) {
+        guide.frame.resize(size);
+        QCoreApplication::processEvents();
+        const QSize outer = guide.frame.frameGeometry().size();
+        EXPECT_EQ(guide.Find("txtHelp")->geometry(),
+                  QRect(QPoint(8, 56),
+                        QSize(std::max(outer.width() - 33, 0), std::max(outer.height() - 104, 0))));
+        EXPECT_EQ(guide.Find("lblEnergy")->pos(), QPoint(278, 8));
+    }
+}
+
+TEST(AboutFrame, ControlsAnswerToMouseAndKeys)
+{
+    Opened<AboutFrame> about(mnAbout);
+    const auto& platform = about.bench.platform;
+    EXPECT_EQ(about.frame.windowTitle(), "About Selvane");
+    EXPECT_EQ(about.frame.focusWidget(), about.Find("cmdOK"));
+    about.Click("LblWebsite");
+    about.Press("Label1", Qt::Key_Return);
+    about.Press("Label1", Qt::Key_Space);
+    EXPECT_EQ(platform.opened.size(), 3);
+    EXPECT_TRUE(platform.messages.empty());
+    about.Press("cmdSysInfo", Qt::Key_Return); // the one with the focus, not the default one
+    QTest::keyClick(&about.frame, Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return platform.messages.size() == 2; }, 500))
+        << platform.messages.size();
+    EXPECT_TRUE(IsLoaded(about.bench.sim, WindowId::About));
+    EXPECT_EQ(about.frame.minimumSize(), about.frame.maximumSize());
+}
+
+TEST(AboutFrame, OkEnterAndEscapeUnloadIt)
+{
+    for (const auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_unknown}) {
+        Opened<AboutFrame> about(mnAbout);
+        if (key == Qt::Key_unknown)
+            about.Click("cmdOK");
+        else
+            QTest::keyClick(about.frame.focusWidget(), key);
+        EXPECT_FALSE(IsLoaded(about.bench.sim, WindowId::About)) << key;
+    }
+}
