@@ -92,13 +92,20 @@ Canvas PictureSurface::Target()
 // The middle of the picture's pixel in which a place lies on the whole coordinate.
 DevicePoint PictureSurface::Place(float x, float y) const
 {
-    return {((x - ScaleLeft) * (Width / ScaleWidth) + 0.5) * scale_,
-            ((y - ScaleTop) * (Height / ScaleHeight) + 0.5) * scale_};
+    return {((x - ScaleLeft) * PerUnit(across_, ScaleWidth, Width) + 0.5) * scale_,
+            ((y - ScaleTop) * PerUnit(down_, ScaleHeight, Height) + 0.5) * scale_};
+}
+
+// A dot needs two of these, and a frame has a thousand dots: the division is kept.
+double PictureSurface::PerUnit(Axis& axis, double units, int pixels)
+{
+    if (axis.units != units) axis = {units, pixels / units};
+    return axis.pixelsPerUnit;
 }
 
 double PictureSurface::Length(float userUnits) const
 {
-    return std::fabs(userUnits * (Width / ScaleWidth)) * scale_;
+    return std::fabs(userUnits * PerUnit(across_, ScaleWidth, Width)) * scale_;
 }
 
 void PictureSurface::OnCls()

@@ -62,6 +62,12 @@ private:
         int width = 0, height = 0;
     };
 
+    struct Axis
+    {
+        double units, pixelsPerUnit;
+    };
+
+    static double PerUnit(Axis& axis, double units, int pixels);
     QRect BoxOf(const Frame& frame) const;
     Canvas Target();
     DevicePoint Place(float x, float y) const;
@@ -70,6 +76,7 @@ private:
     const TextMask& MaskOf(std::string_view text);
 
     const Pixel background_;
+    mutable Axis across_{}, down_{}; // as last worked out
     double scale_ = 1;
     int width_ = 0, height_ = 0; // device pixels
     std::vector<Pixel> pixels_;

@@ -87,8 +87,10 @@ void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel)
         FillBlock(canvas, {left, left + side}, {top, top + side}, pixel);
         return;
     }
-    for (int y = top; y < top + side; ++y)
-        for (int x = left; x < left + side; ++x) canvas.Row(y)[x] = pixel;
+    for (int y = top; y < top + side; ++y) {
+        Pixel* const row = canvas.Row(y) + left;
+        for (int x = 0; x < side; ++x) row[x] = pixel;
+    }
 }
 
 void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness,
