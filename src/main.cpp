@@ -5,8 +5,23 @@
 
 #include <QApplication>
 
+namespace {
+
+QtMessageHandler tellAsUsual = nullptr;
+
+// The toolkit looks for a display in the user's run-time folder and complains where a desktop has
+// none, which is no fault of the user's.
+void TellButThat(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    if (!message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set"))
+        tellAsUsual(type, context, message);
+}
+
+} // namespace
+
 int main(int argc, char** argv)
 {
+    tellAsUsual = qInstallMessageHandler(TellButThat);
     selvane::PrepareApplication();
     QApplication application(argc, argv);
     selvane::SetUpApplication(application);

@@ -69,10 +69,14 @@ void AboutFrame::BuildControl(const AboutRow& row)
         button->setDefault(row.control == cmdOK);
         connect(button, &QPushButton::clicked, this, press);
         made = button;
+        made->setAccessibleDescription(row.control == cmdOK ? "Closes this window."
+                                                            : "Starts the desktop's own tool.");
     } else if (row.underline == Underline::Yes) {
         auto* link = new LinkLabel(TextOf(row.text), row.place, this);
         connect(link, &LinkLabel::clicked, this, press);
         made = link;
+        made->setAccessibleDescription(row.control == LblWebsite ? "Opens the website."
+                                                                 : "Writes a mail.");
     } else {
         QLabel* label = MakeText(row, this);
         if (row.control == lblTitle) lblTitle_ = label;

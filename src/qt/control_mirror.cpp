@@ -79,6 +79,7 @@ void ControlMirror::MatchFields(const Controls& controls)
         if (texts_[at] != record.text || field.isModified()) {
             // Writing the same text again would lose the caret, the selection and the way back.
             const QString text = TextOf(record.text);
+            const QSignalBlocker quiet(field);
             if (field.text() != text) field.setText(text);
             field.setModified(false);
             texts_[at] = record.text;

@@ -9,6 +9,7 @@
 #include "qt/menus.h"
 #include "qt/number_line.h"
 #include "qt/picture_widget.h"
+#include "qt/spoken_roles.h"
 #include "qt/value_bar.h"
 
 #include <QFrame>
@@ -93,6 +94,8 @@ private:
         }
         label.Widget()->setObjectName(TextOf(row.name));
         label.Widget()->setToolTip(TextOf(row.toolTip));
+        if (row.id == lblReturnToTutorial)
+            label.Widget()->setAccessibleDescription("Shows the tutorial's explanation again.");
     }
 
     void AddMarker()
@@ -118,7 +121,8 @@ private:
         bar->setValue(row.value);
         const LabelRow& caption = LabelTable()[Index(row.caption)];
         bar->setAccessibleName(SpokenNameOf(row, caption.caption));
-        bar->setAccessibleDescription(TextOf(caption.toolTip));
+        const bool pans = row.id == sclLR || row.id == sclUD;
+        bar->setAccessibleDescription(pans ? "Moves the picture." : TextOf(caption.toolTip));
         QObject::connect(bar, &QAbstractSlider::valueChanged, &door_,
                          [door = &door_, id = row.id](int value) {
                              door->Act(WindowId::Main, [id, value](Simulation& sim) {
@@ -134,10 +138,14 @@ private:
         Place(*field, row);
         field->setText(TextOf(row.text));
         const ScrollBarRow& bar = ScrollBarTable()[Index(row.bar)];
-        field->setAccessibleName(SpokenNameOf(bar, LabelTable()[Index(bar.caption)].caption));
+        const LabelRow& caption = LabelTable()[Index(bar.caption)];
+        field->setAccessibleName(SpokenNameOf(bar, caption.caption));
+        field->SetPurpose(TextOf(caption.toolTip));
         widgets.labels[Index(bar.caption)].caption->setBuddy(field);
-        QObject::connect(field, &QLineEdit::textEdited, &door_,
-                         [door = &door_, id = row.id](const QString& text) {
+        // Assistive technology changes a text without editing it.
+        QObject::connect(field, &QLineEdit::textChanged, &door_,
+                         [door = &door_, id = row.id, field](const QString& text) {
+                             field->setModified(true);
                              door->Act(WindowId::Main, [id, typed = text.toStdString()](
                                                            Simulation& sim) {
                                  Type(sim, id, typed);
@@ -163,6 +171,7 @@ private:
         pane->setObjectName("txtHelp");
         pane->setGeometry(RectOf(kHelpPane));
         pane->setAccessibleName("Explanation");
+        pane->setAccessibleDescription("Explains what the pictures show.");
         QObject::connect(pane, &HelpPaneWidget::documentLinkClicked, &door_,
                          [door = &door_](const QString& name) {
                              door->Act(WindowId::Main, [to = name.toStdString()](Simulation& sim) {
@@ -213,6 +222,7 @@ QWidget* LabelWidget::Widget() const
 ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
                              const Surfaces& surfaces)
 {
+    TeachSpokenRoles(); // a control that has been spoken of keeps the role it had then
     ControlBuilder builder(panel, door);
     builder.Build(surfaces);
     builder.widgets.menu = BuildMenus(menuBar, door);

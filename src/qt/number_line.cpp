@@ -13,13 +13,19 @@ NumberLine::NumberLine(QWidget* parent) : QLineEdit(parent)
     setFont(FontOf(kTextPoints));
 }
 
+void NumberLine::SetPurpose(const QString& purpose)
+{
+    purpose_ = purpose;
+    setAccessibleDescription(purpose);
+}
+
 void NumberLine::SetFault(const QString& why)
 {
     QPalette colours;
     if (!why.isEmpty()) colours.setColor(QPalette::Text, kFaultColour);
     setPalette(colours);
     setToolTip(why);
-    setAccessibleDescription(why);
+    setAccessibleDescription(why.isEmpty() ? purpose_ : why);
 }
 
 void NumberLine::paintEvent(QPaintEvent* event)

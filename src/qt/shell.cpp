@@ -1,7 +1,6 @@
 #include "qt/shell.h"
 
 #include "program/program.h"
-#include "qt/spoken_roles.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -14,7 +13,6 @@ Shell::Shell(Platform& platform)
       sim_(picSelvane_, picDemo_, platform, TheWiring()), door_(sim_),
       window_(door_, {picSelvane_, picDemo_}), timers_(door_), keeper_(door_, window_)
 {
-    TeachSpokenRoles();
     connect(&door_, &Dispatch::settled, this, &Shell::Match);
     connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
     door_.Report([](Simulation& sim) { Load(sim); });

@@ -25,6 +25,7 @@ void UserGuideFrame::BuildTopics()
     for (const TopicRow& row : TopicTable()) {
         auto* label = new LinkLabel(TextOf(row.caption), row.place, this);
         label->setObjectName(TextOf(row.name));
+        label->setAccessibleDescription("Shows this topic.");
         connect(label, &LinkLabel::clicked, this, [this, topic = row.topic] {
             door_.Act(WindowId::UserGuide, [topic](Simulation& sim) { ClickTopic(sim, topic); });
         });
@@ -36,6 +37,7 @@ void UserGuideFrame::BuildPane()
     txtHelp_ = new HelpPaneWidget(this); // after the topics, also in the tab order
     txtHelp_->setObjectName("txtHelp");
     txtHelp_->setAccessibleName(tr("User guide"));
+    txtHelp_->setAccessibleDescription("The text of the topic.");
     txtHelp_->move(kUserGuidePane.left, kUserGuidePane.top);
     connect(txtHelp_, &HelpPaneWidget::documentLinkClicked, this, [this](const QString& name) {
         door_.Act(WindowId::UserGuide, [file = name.toStdString()](Simulation& sim) {
