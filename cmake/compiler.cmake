@@ -36,7 +36,9 @@ endif()
 
 # The core's own mistakes are caught by SELVANE_ASSERT, which stays on in release.
 
-# headers_compile_alone(TARGET HEADER...): each header as a source file of its own.
+# headers_compile_alone(TARGET HEADER...): each header as a source file of its own. The target
+# headers_alone has them all; a build with sanitizers leaves them out, as it finds no more there.
+add_custom_target(headers_alone)
 function(headers_compile_alone target)
     if(NOT BUILD_TESTING)
         return()
@@ -58,4 +60,8 @@ function(headers_compile_alone target)
     endforeach()
     add_library(${target}_headers OBJECT ${units})
     target_link_libraries(${target}_headers PRIVATE ${target} selvane_settings)
+    add_dependencies(headers_alone ${target}_headers)
+    if(SELVANE_SANITIZE)
+        set_target_properties(${target}_headers PROPERTIES EXCLUDE_FROM_ALL ON)
+    endif()
 endfunction()
