@@ -1,12 +1,11 @@
 #include "scenario.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <cmath>
 #include <fstream>
+#include <gtest/gtest.h>
 
 namespace selvane {
 

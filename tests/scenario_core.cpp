@@ -8,8 +8,7 @@ namespace selvane {
 namespace {
 
 class ScenarioOnCore : public testing::TestWithParam<std::filesystem::path>
-{
-};
+{};
 
 TEST_P(ScenarioOnCore, GoesAsTold)
 {

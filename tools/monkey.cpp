@@ -1,6 +1,7 @@
 // monkey SEED COUNT: prints that many actions of a user who does anything, for replay to carry out.
-#include "replay/action.h"
 #include "replay/monkey.h"
+
+#include "replay/action.h"
 
 #include <cstdio>
 

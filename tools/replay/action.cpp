@@ -154,7 +154,9 @@ std::optional<LocalTime> ParseTime(std::string_view text)
         if (text[mark] != kShape[mark]) return std::nullopt;
     const LocalTime time{Digits(text, 0, 4),  Digits(text, 5, 2),  Digits(text, 8, 2),
                          Digits(text, 11, 2), Digits(text, 14, 2), Digits(text, 17, 2)};
-    const auto within = [](int value, int least, int most) { return value >= least && value <= most; };
+    const auto within = [](int value, int least, int most) {
+        return value >= least && value <= most;
+    };
     if (!within(time.year, 1, 9999) || !within(time.month, 1, 12) || !within(time.day, 1, 31) ||
         !within(time.hour, 0, 23) || !within(time.minute, 0, 59) || !within(time.second, 0, 59))
         return std::nullopt;

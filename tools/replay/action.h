@@ -14,25 +14,71 @@
 
 namespace selvane::replay {
 
-struct ScrollTo { ScrollBarId bar; int value; };
-struct ArrowClick { ScrollBarId bar; int direction; }; // +1 or -1
-struct PageClick { ScrollBarId bar; int direction; };
-struct TypeText { FieldId field; std::string text; };
-struct ButtonClick { ButtonId button; };
-struct MenuChoice { MenuId item; };
-struct LabelClick { LabelId label; };
-struct TimerTick { TimerId timer; };
-struct Activation { WindowId window; };
-struct Closing { WindowId window; };
-struct TopicClick { Topic topic; };
-struct AboutClick { AboutControl control; };
-struct ClockSetting { LocalTime time; };
-struct DocumentChange { std::string name; bool present; };
+struct ScrollTo
+{
+    ScrollBarId bar;
+    int value;
+};
+struct ArrowClick
+{
+    ScrollBarId bar;
+    int direction;
+}; // +1 or -1
+struct PageClick
+{
+    ScrollBarId bar;
+    int direction;
+};
+struct TypeText
+{
+    FieldId field;
+    std::string text;
+};
+struct ButtonClick
+{
+    ButtonId button;
+};
+struct MenuChoice
+{
+    MenuId item;
+};
+struct LabelClick
+{
+    LabelId label;
+};
+struct TimerTick
+{
+    TimerId timer;
+};
+struct Activation
+{
+    WindowId window;
+};
+struct Closing
+{
+    WindowId window;
+};
+struct TopicClick
+{
+    Topic topic;
+};
+struct AboutClick
+{
+    AboutControl control;
+};
+struct ClockSetting
+{
+    LocalTime time;
+};
+struct DocumentChange
+{
+    std::string name;
+    bool present;
+};
 
-using Action =
-    std::variant<ScrollTo, ArrowClick, PageClick, TypeText, ButtonClick, MenuChoice, LabelClick,
-                 TimerTick, Activation, Closing, TopicClick, AboutClick, ClockSetting,
-                 DocumentChange>;
+using Action = std::variant<ScrollTo, ArrowClick, PageClick, TypeText, ButtonClick, MenuChoice,
+                            LabelClick, TimerTick, Activation, Closing, TopicClick, AboutClick,
+                            ClockSetting, DocumentChange>;
 
 // Nothing when the line is no action. Words may stand apart by several blanks; what is typed is all
 // that stands behind the one blank after the field. A value beyond the range of an int saturates.

@@ -34,7 +34,10 @@ struct Entry
     }
 };
 
-Entry EntryOf(Dump& dump, std::string_view name) { return {dump, std::string(name) + '.'}; }
+Entry EntryOf(Dump& dump, std::string_view name)
+{
+    return {dump, std::string(name) + '.'};
+}
 
 void AddScrollBars(Dump& dump, const Controls& controls)
 {
@@ -105,9 +108,12 @@ std::string_view ActiveWindow(const Windows& windows)
 {
     if (windows.order.empty()) return "-";
     switch (windows.order.back()) {
-    case WindowId::Main: return "main";
-    case WindowId::UserGuide: return "guide";
-    case WindowId::About: break;
+    case WindowId::Main:
+        return "main";
+    case WindowId::UserGuide:
+        return "guide";
+    case WindowId::About:
+        break;
     }
     return "about";
 }
@@ -197,6 +203,9 @@ std::string Changes(const Dump& before, const Dump& after)
     return lines;
 }
 
-std::string Lines(const Dump& dump) { return Changes({}, dump); }
+std::string Lines(const Dump& dump)
+{
+    return Changes({}, dump);
+}
 
 } // namespace selvane::replay

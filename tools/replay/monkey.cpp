@@ -13,16 +13,20 @@ namespace {
 using namespace std::string_view_literals;
 
 // Where handlers clamp, wrap, push or part their ways.
-constexpr int kTellingValues[] = {0,   1,   -1,  6,    7,   8,    10,   15,   32,  60,   75,  80,
-                                  89,  90,  91,  99,   100, 179,  180,  181,  270, 359,  360, 361,
+constexpr int kTellingValues[] = {0,   1,   -1,  6,    7,    8,    10,   15,   32,  60,   75,  80,
+                                  89,  90,  91,  99,   100,  179,  180,  181,  270, 359,  360, 361,
                                   397, 358, -20, -180, -181, -359, -360, -361, 365, 1000, -200};
 
 constexpr std::string_view kTexts[] = {
-    "",      "0",      "-0",    "1",    "30",    "63.4",  "-45",  "600",   "1500",  "39700", "0.5",
-    "-0.1",  "0.99",   "1.5",   "-1",   "abc",   "5 km",  "  7",  "1e3",   ".5",    "5.",    "8000",
-    "9000",  "12000",  "+12",   "90",   "180",   "270",   "360",  "1e400", "nan",   "inf",   "0x10",
-    "1e308", "-1e308", "1e-300", "-6371", "1e12", "1e13", "½",    "1,5",   "--7",   "\t4",   "😀",
-    "99999999999999999999999999"};
+    "",       "0",     "-0",   "1",     "30",
+    "63.4",   "-45",   "600",  "1500",  "39700",
+    "0.5",    "-0.1",  "0.99", "1.5",   "-1",
+    "abc",    "5 km",  "  7",  "1e3",   ".5",
+    "5.",     "8000",  "9000", "12000", "+12",
+    "90",     "180",   "270",  "360",   "1e400",
+    "nan",    "inf",   "0x10", "1e308", "-1e308",
+    "1e-300", "-6371", "1e12", "1e13",  "½",
+    "1,5",    "--7",   "\t4",  "😀",     "99999999999999999999999999"};
 
 constexpr std::string_view kDocuments[] = {"Help(20).rtf", "Help(21).rtf",    "Help(22).rtf",
                                            "Help(31).rtf", "Help(32).rtf",    "GeoOrbit.rtf",
@@ -91,10 +95,15 @@ std::string Monkey::InAnotherWindow()
     static constexpr std::string_view kStay[] = {"guide activate"sv, "about activate"sv,
                                                  "menu mnUserGuide"sv, "menu mnAbout"sv};
     switch (Below(5)) {
-    case 0: return std::string(AnyOf(kStay));
-    case 1: return "guide click " + AnyName(TopicTable());
-    case 2: return "about click " + AnyName(AboutTable());
-    default: away_ = Below(2) == 0; return std::string(AnyOf(kBack));
+    case 0:
+        return std::string(AnyOf(kStay));
+    case 1:
+        return "guide click " + AnyName(TopicTable());
+    case 2:
+        return "about click " + AnyName(AboutTable());
+    default:
+        away_ = Below(2) == 0;
+        return std::string(AnyOf(kBack));
     }
 }
 

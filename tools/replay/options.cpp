@@ -5,7 +5,10 @@ namespace selvane::replay {
 
 namespace {
 
-std::optional<UsageFault> Fault(std::string text) { return UsageFault{std::move(text)}; }
+std::optional<UsageFault> Fault(std::string text)
+{
+    return UsageFault{std::move(text)};
+}
 
 std::optional<UsageFault> ReadEvery(std::string_view text, Options& options)
 {
@@ -59,7 +62,8 @@ std::optional<UsageFault> ReadOptions(std::span<const char* const> words, Option
             options.file = word;
         }
     }
-    if (options.file.empty()) return Fault("a script is wanted: a file's name, or - for standard input");
+    if (options.file.empty())
+        return Fault("a script is wanted: a file's name, or - for standard input");
     return std::nullopt;
 }
 

@@ -52,7 +52,10 @@ Player::Player(const LocalTime& time, std::set<std::string, std::less<>> missing
     FirstShowing(sim_);
 }
 
-Refusal Player::Do(const Action& action) { return std::visit(Doer{sim_, platform_}, action); }
+Refusal Player::Do(const Action& action)
+{
+    return std::visit(Doer{sim_, platform_}, action);
+}
 
 Dump Player::Take(Calls calls) const
 {

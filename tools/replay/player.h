@@ -23,6 +23,7 @@ public:
     Dump Take(Calls calls = Calls::Counted) const;
 
     const Simulation& Program() const { return sim_; }
+    const ScriptedPlatform& Machine() const { return platform_; }
     const RecordingSurface& MainPicture() const { return picSelvane_; }
     const RecordingSurface& TutorialPicture() const { return picDemo_; }
 

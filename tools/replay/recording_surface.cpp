@@ -22,11 +22,14 @@ std::size_t Coordinates(StrokeKind kind)
 {
     switch (kind) {
     case StrokeKind::pset:
-    case StrokeKind::text: return 2;
-    case StrokeKind::line: return 4;
+    case StrokeKind::text:
+        return 2;
+    case StrokeKind::line:
+        return 4;
     case StrokeKind::arc:
     case StrokeKind::circle:
-    case StrokeKind::sector: break;
+    case StrokeKind::sector:
+        break;
     }
     return 3;
 }
@@ -122,8 +125,8 @@ void RecordingSurface::OnPoint(float x, float y, Colour colour)
 
 void RecordingSurface::OnText(float x, float y, Colour colour, std::string_view text)
 {
-    strokes_.push_back({StrokeKind::text, colour, std::nullopt, {x, y}, 0, 0, text_.size(),
-                        text.size()});
+    strokes_.push_back(
+        {StrokeKind::text, colour, std::nullopt, {x, y}, 0, 0, text_.size(), text.size()});
     text_ += text;
 }
 

@@ -16,8 +16,7 @@ class Printer
 public:
     Printer(const Options& options, const Player& player, std::ostream& output)
         : options_(options), player_(player), output_(output)
-    {
-    }
+    {}
 
     void Print(std::size_t number, std::string_view action, const Refusal& refusal)
     {

@@ -13,15 +13,18 @@ namespace selvane::replay {
 
 struct Options
 {
-    std::string file;           // "-": standard input
-    bool full = false;          // whole dumps instead of changes
-    bool calls = false;         // with every drawing call
-    std::size_t every = 1;      // a dump after every so many actions, and after the last
+    std::string file;      // "-": standard input
+    bool full = false;     // whole dumps instead of changes
+    bool calls = false;    // with every drawing call
+    std::size_t every = 1; // a dump after every so many actions, and after the last
     LocalTime clock{2012, 7, 28, 14, 48, 46};
     std::set<std::string, std::less<>> missing; // documents that are not there at the start
 };
 
-struct UsageFault { std::string text; };
+struct UsageFault
+{
+    std::string text;
+};
 
 // The words of a command line, without the program's own name.
 std::optional<UsageFault> ReadOptions(std::span<const char* const> words, Options& options);

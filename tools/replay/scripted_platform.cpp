@@ -14,7 +14,10 @@ void ScriptedPlatform::Note(std::string_view verb, std::string_view what)
     last_ = std::string(verb) + ' ' + std::string(what);
 }
 
-void ScriptedPlatform::OpenLink(std::string_view target) { Note("open", target); }
+void ScriptedPlatform::OpenLink(std::string_view target)
+{
+    Note("open", target);
+}
 
 bool ScriptedPlatform::StartProgram(const std::string& path)
 {

@@ -10,17 +10,34 @@ namespace selvane::replay {
 namespace {
 
 template <typename Number>
-    requires std::integral<Number> || std::floating_point<Number>
-std::string TextOf(Number value)
+requires std::integral<Number> || std::floating_point<Number> std::string TextOf(Number value)
 {
     return NumberText(static_cast<double>(value));
 }
-std::string TextOf(bool value) { return value ? "1" : "0"; }
-std::string TextOf(const std::string& value) { return Escaped(value); }
-std::string TextOf(Colour value) { return ColourText(value); }
-std::string TextOf(Scenario value) { return std::string(Text(value)); }
-std::string TextOf(ShapePair value) { return std::string(Text(value)); }
-std::string TextOf(SceneKey value) { return std::string(Text(value)); }
+std::string TextOf(bool value)
+{
+    return value ? "1" : "0";
+}
+std::string TextOf(const std::string& value)
+{
+    return Escaped(value);
+}
+std::string TextOf(Colour value)
+{
+    return ColourText(value);
+}
+std::string TextOf(Scenario value)
+{
+    return std::string(Text(value));
+}
+std::string TextOf(ShapePair value)
+{
+    return std::string(Text(value));
+}
+std::string TextOf(SceneKey value)
+{
+    return std::string(Text(value));
+}
 
 template <auto member> constexpr SimField Field(std::string_view name)
 {
@@ -103,7 +120,10 @@ static_assert(std::ranges::is_sorted(kFields, {}, &SimField::name));
 
 } // namespace
 
-std::span<const SimField> SimFields() { return kFields; }
+std::span<const SimField> SimFields()
+{
+    return kFields;
+}
 
 std::string_view PictureName(const Simulation& sim, const DrawingSurface* picture)
 {

@@ -12,7 +12,8 @@ namespace {
 void Append(std::string& text, double value, std::chars_format format, int precision)
 {
     char digits[384]; // the largest double has 309 digits before its point
-    const auto [end, error] = std::to_chars(digits, digits + sizeof digits, value, format, precision);
+    const auto [end, error] =
+        std::to_chars(digits, digits + sizeof digits, value, format, precision);
     SELVANE_ASSERT(error == std::errc{});
     text.append(digits, end);
 }
@@ -61,10 +62,17 @@ std::string Escaped(std::string_view text)
     std::string escaped;
     escaped.reserve(text.size());
     for (const char character : text) switch (character) {
-        case '\\': escaped += "\\\\"; break;
-        case '\n': escaped += "\\n"; break;
-        case '\r': escaped += "\\r"; break;
-        default: escaped += character;
+        case '\\':
+            escaped += "\\\\";
+            break;
+        case '\n':
+            escaped += "\\n";
+            break;
+        case '\r':
+            escaped += "\\r";
+            break;
+        default:
+            escaped += character;
         }
     return escaped;
 }

@@ -12,8 +12,8 @@ namespace selvane::replay {
 // "%.9g", and 0 for a negative zero.
 std::string NumberText(double value);
 
-void AppendNineDigits(std::string& text, double value);     // the same, at the text's end
-void AppendThreeDecimals(std::string& text, double value);  // "%.3f", its negative zero kept
+void AppendNineDigits(std::string& text, double value);    // the same, at the text's end
+void AppendThreeDecimals(std::string& text, double value); // "%.3f", its negative zero kept
 
 // "r,g,b"; "-" for none.
 void AppendColour(std::string& text, const std::optional<Colour>& colour);

@@ -1,0 +1,31 @@
+// The tests that need a window share one application object, without a display.
+#include "qt/appearance.h"
+
+#include <QApplication>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace {
+
+// In normal running the toolkit has nothing to say. What this platform lacks is no fault of ours.
+void FailOnMessage(QtMsgType, const QMessageLogContext&, const QString& text)
+{
+    if (!text.startsWith("This plugin does not support"))
+        ADD_FAILURE() << "the toolkit says: " << text.toStdString();
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QTemporaryDir runtime;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
+        qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
+    selvane::PrepareApplication();
+    QApplication application(argc, argv);
+    selvane::SetUpApplication(application);
+    testing::InitGoogleTest(&argc, argv);
+    qInstallMessageHandler(FailOnMessage);
+    return RUN_ALL_TESTS();
+}
