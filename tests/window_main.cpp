@@ -1,5 +1,6 @@
-// The tests that need a window share one application object, without a display.
+// The tests that need a window share one application object and screens that nobody sees.
 #include "qt/appearance.h"
+#include "virtual_screens.h"
 
 #include <QApplication>
 #include <QTemporaryDir>
@@ -19,7 +20,7 @@ void FailOnMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 int main(int argc, char** argv)
 {
     QTemporaryDir runtime;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     selvane::PrepareApplication();
