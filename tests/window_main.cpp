@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
+#include <optional>
 
 namespace {
 
@@ -20,7 +21,15 @@ void FailOnMessage(QtMsgType, const QMessageLogContext&, const QString& text)
 int main(int argc, char** argv)
 {
     QTemporaryDir runtime;
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The first has room for everything; then finer scales, then small screens.
+    std::optional<selvane::VirtualScreens> screens;
+    if (qEnvironmentVariable("QT_QPA_PLATFORM", "offscreen") == "offscreen")
+        screens.emplace(std::initializer_list<selvane::VirtualScreen>{{1920, 1200, 1},
+                                                                      {2880, 1800, 1.5},
+                                                                      {3840, 2400, 2},
+                                                                      {1366, 768, 1},
+                                                                      {1280, 720, 1},
+                                                                      {1024, 768, 1}});
     if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR"))
         qputenv("XDG_RUNTIME_DIR", runtime.path().toLocal8Bit());
     selvane::PrepareApplication();

@@ -27,16 +27,19 @@ public:
         QFile file(path);
         if (!file.open(QIODevice::WriteOnly)) return;
         QTextStream text(&file);
+        int count = 0; // the platform sorts them by name
         int left = 0;
         for (const VirtualScreen& screen : screens) {
-            text << (left == 0 ? R"({"screens":[)" : ",")
-                 << QString(R"({"name":"screen at %1","x":%1,"y":0,"width":%2,"height":%3,)"
-                            R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":%4})")
+            text << (count == 0 ? R"({"screens":[)" : ",")
+                 << QString(R"({"name":"screen %1","x":%2,"y":0,"width":%3,"height":%4,)"
+                            R"("logicalDpi":96,"logicalBaseDpi":96,"dpr":%5})")
+                        .arg(count)
                         .arg(left)
                         .arg(screen.width)
                         .arg(screen.height)
                         .arg(screen.scale);
-            left += screen.width;
+            ++count;
+            left += screen.width; // places are not scaled
         }
         text << "]}";
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + path.toUtf8());
