@@ -13,6 +13,7 @@
 #include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
+#include <QStyle>
 
 #include <algorithm>
 
@@ -53,9 +54,18 @@ void MainWindow::BuildPanel(Dispatch& door, const Surfaces& surfaces)
     area_->setFocusPolicy(Qt::NoFocus); // a click beside the controls takes no field's focus
     setCentralWidget(area_);
     connect(qApp, &QApplication::focusChanged, this, [this, panel](QWidget*, QWidget* now) {
-        constexpr int kMargin = 8;
-        if (now && panel->isAncestorOf(now)) area_->ensureWidgetVisible(now, kMargin, kMargin);
+        if (now && panel->isAncestorOf(now)) ScrollTo(*now);
     });
+}
+
+// All of the control, not only its caret.
+void MainWindow::ScrollTo(const QWidget& control)
+{
+    constexpr int kMargin = 8;
+    const QRect box(control.mapTo(area_->widget(), QPoint()), control.size());
+    const QPoint middle = box.center();
+    area_->ensureVisible(middle.x(), middle.y(), box.width() / 2 + kMargin,
+                         box.height() / 2 + kMargin);
 }
 
 void MainWindow::AddShortcuts(Dispatch& door)
@@ -90,10 +100,13 @@ void MainWindow::FitToScreen()
 {
     const QRect room = screen()->availableGeometry();
     const QSize borders = frameGeometry().size() - geometry().size();
-    const QSize content(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
-    const QSize wanted =
-        QSize(kWindowOuter.width, kWindowOuter.height).expandedTo(content + borders);
-    resize(wanted.boundedTo(room.size()) - borders);
+    QSize needed(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
+    needed += borders;
+    // A scroll bar that comes for want of height would take its share of the width.
+    if (needed.height() > room.height())
+        needed.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize outer = QSize(kWindowOuter.width, kWindowOuter.height).expandedTo(needed);
+    resize(outer.boundedTo(room.size()) - borders);
     move(std::max(kWindowOuter.left, room.left()), std::max(kWindowOuter.top, room.top()));
 }
 

@@ -36,6 +36,7 @@ private:
     void BuildPanel(Dispatch& door, const Surfaces& surfaces);
     void AddShortcuts(Dispatch& door);
     void OpenMenuBar();
+    void ScrollTo(const QWidget& control);
 
     QScrollArea* area_;
     ControlWidgets widgets_;

@@ -96,21 +96,21 @@ void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel)
 void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness,
               Pixel pixel)
 {
-    const std::optional<Segment> line = Visible(canvas, {from, to}, thickness + 1);
-    if (!line) return;
-    const auto [left, right] = std::minmax(line->from.x, line->to.x);
-    const auto [top, bottom] = std::minmax(line->from.y, line->to.y);
-    const int side = std::max(1, NearestWhole(thickness));
+    const auto [left, right] = std::minmax(from.x, to.x);
+    const auto [top, bottom] = std::minmax(from.y, to.y);
     constexpr double kStraight = 1e-6;
     if (right - left < kStraight || bottom - top < kStraight) {
+        const int side = std::max(1, NearestWhole(thickness));
         FillBlock(canvas, Thick(left, right, side), Thick(top, bottom, side), pixel);
         return;
     }
+    const std::optional<Segment> line = Visible(canvas, {from, to}, thickness + 1);
+    if (!line) return;
     const auto at = [&canvas](int x, int y) -> Pixel* {
         const bool outside = x < 0 || y < 0 || x >= canvas.width || y >= canvas.height;
         return outside ? nullptr : canvas.Row(y) + x;
     };
-    if (right - left >= bottom - top)
+    if (right - left >= bottom - top) // the same of the part that is seen
         SmoothLine(line->from, line->to, thickness, pixel, at);
     else
         SmoothLine({line->from.y, line->from.x}, {line->to.y, line->to.x}, thickness, pixel,

@@ -10,6 +10,7 @@ Timers::Timers(Dispatch& door) : door_(door)
 {
     for (const TimerRow& row : TimerTable()) {
         QTimer& timer = timers_[Index(row.id)];
+        timer.setParent(this);
         timer.setObjectName(TextOf(row.name));
         timer.setTimerType(Qt::PreciseTimer);
         timer.setInterval(row.intervalMs);

@@ -1,0 +1,216 @@
+// Pictures pixel by pixel, at every scale of a screen.
+#include "bench.h"
+#include "qt/picture_surface.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <numbers>
+
+using namespace selvane;
+
+namespace {
+
+constexpr double kPi = std::numbers::pi;
+constexpr QRgb kInk = 0xffffffff, kPaper = 0xff000000;
+
+class Picture : public testing::TestWithParam<double>
+{
+protected:
+    Picture()
+    {
+        surface.SetDeviceScale(GetParam());
+        surface.Cls();
+        surface.ForeColor = surface.FillColor = kWhite;
+    }
+
+    // Distance of a device pixel's middle from that of the picture's central pixel, in pixels of
+    // the picture, and its direction, y upward.
+    struct FromCentre
+    {
+        double distance, x, y;
+    };
+    FromCentre At(int column, int row) const
+    {
+        const double x = (column + 0.5) / GetParam() - 200.5;
+        const double y = 150.5 - (row + 0.5) / GetParam();
+        return {std::hypot(x, y), x, y};
+    }
+
+    // Counts the pixels that are not as the rule says; where it says nothing, any colour will do.
+    template <typename Rule> int Wrong(Rule rule) const
+    {
+        const QImage image = surface.Image();
+        int wrong = 0;
+        for (int row = 0; row < image.height(); ++row)
+            for (int column = 0; column < image.width(); ++column) {
+                const std::optional<QRgb> expected = rule(At(column, row));
+                wrong += expected && *expected != (image.pixel(column, row) | 0xff000000);
+            }
+        return wrong;
+    }
+
+    PictureSurface surface{kPicDemo};
+};
+
+INSTANTIATE_TEST_SUITE_P(Scales, Picture, testing::Values(1.0, 1.25, 1.5, 2.0, 3.0));
+
+} // namespace
+
+TEST_P(Picture, RingsOnePixelApartMakeASphereWithoutHoles)
+{
+    surface.FillStyle = Fill::Transparent;
+    for (int radius = 0; radius <= 100; ++radius) surface.Circle(0, 0, radius);
+    EXPECT_EQ(Wrong([](const FromCentre& at) {
+                  return at.distance <= 100.4   ? std::optional(kInk)
+                         : at.distance >= 100.6 ? std::optional(kPaper)
+                                                : std::nullopt;
+              }),
+              0);
+}
+
+TEST_P(Picture, ARingIsOnePixelWideAndHollow)
+{
+    surface.FillStyle = Fill::Transparent;
+    surface.Circle(0, 0, 80);
+    EXPECT_EQ(Wrong([](const FromCentre& at) -> std::optional<QRgb> {
+                  const double off = std::fabs(at.distance - 80);
+                  if (off < 0.45) return kInk;
+                  return off > 0.55 ? std::optional(kPaper) : std::nullopt;
+              }),
+              0);
+}
+
+TEST_P(Picture, DiscsAndSectorsAreSmoothOnlyAtTheEdgeAndMeetWithoutASeam)
+{
+    const auto halfDisc = [](const FromCentre& at) -> std::optional<QRgb> {
+        const bool onEdge =
+            std::fabs(at.distance - 90) < 2 || (std::fabs(at.x) < 2 && at.distance < 92);
+        if (onEdge) return std::nullopt;
+        return at.distance < 90 && at.x < 0 ? kInk : kPaper;
+    };
+    surface.Circle(0, 0, 90, kWhite, -0.5 * kPi, -1.5 * kPi);
+    EXPECT_EQ(Wrong(halfDisc), 0);
+
+    surface.Circle(0, 0, 90, kWhite, -1.5 * kPi, -2 * kPi);
+    surface.Circle(0, 0, 90, kWhite, -2 * kPi, -0.5 * kPi);
+    const auto disc = [](const FromCentre& at) -> std::optional<QRgb> {
+        if (std::fabs(at.distance - 90) < 2) return std::nullopt;
+        return at.distance < 90 ? kInk : kPaper;
+    };
+    EXPECT_EQ(Wrong(disc), 0);
+
+    surface.Cls();
+    surface.Circle(0, 0, 90, kWhite);
+    EXPECT_EQ(Wrong(disc), 0);
+}
+
+TEST_P(Picture, SectorsOfEverySpanCoverTheirShare)
+{
+    for (const double span : {0.3, 1.0, kPi, 4.0, 6.0}) {
+        surface.Cls();
+        surface.Circle(0, 0, 90, kWhite, -0.4, -std::fmod(0.4 + span, 2 * kPi));
+        EXPECT_EQ(Wrong([&](const FromCentre& at) -> std::optional<QRgb> {
+                      double angle = std::atan2(at.y, at.x) - 0.4;
+                      if (angle < 0) angle += 2 * kPi;
+                      const double toSide =
+                          at.distance * std::min({std::fabs(angle - span), angle, 2 * kPi - angle});
+                      if (std::fabs(at.distance - 90) < 2 || at.distance < 6 || toSide < 2.5)
+                          return std::nullopt;
+                      return at.distance < 90 && angle < span ? kInk : kPaper;
+                  }),
+                  0)
+            << span;
+    }
+}
+
+TEST_P(Picture, ADotIsOnePixelAndTheSixthOfATurnOfAnArcIsThatLong)
+{
+    surface.PSet(12.3, -7.8);
+    EXPECT_EQ(Wrong([](const FromCentre& at) -> std::optional<QRgb> {
+                  return std::hypot(at.x - 12.3, at.y + 7.8) > 2 ? std::optional(kPaper)
+                                                                 : std::nullopt;
+              }),
+              0);
+    const int dots = Wrong([](const FromCentre&) -> std::optional<QRgb> { return kPaper; });
+    const int side = qRound(GetParam());
+    EXPECT_EQ(dots, side * side);
+
+    surface.Cls();
+    surface.Circle(0, 0, 90, kWhite, 0, kPi / 3);
+    const double inked = Wrong([](const FromCentre&) -> std::optional<QRgb> { return kPaper; });
+    EXPECT_NEAR(inked / (GetParam() * GetParam()), 90 * kPi / 3, 8);
+}
+
+TEST_P(Picture, LinesRunFromEndToEndWhateverTheirLength)
+{
+    surface.Line(-1e9, 0, 2e9, 0);
+    surface.Line(0, 1e25, 0, -1e25);
+    surface.Line(-1e6, 1e6, 1e6, -1e6);
+    EXPECT_EQ(Wrong([](const FromCentre& at) -> std::optional<QRgb> {
+                  const double toLevel = std::min(std::fabs(at.x), std::fabs(at.y));
+                  const double toDiagonal = std::fabs(at.x + at.y) / std::numbers::sqrt2;
+                  if (toLevel < 0.3) return kInk;
+                  return toLevel > 1 && toDiagonal > 1.5 ? std::optional(kPaper) : std::nullopt;
+              }),
+              0);
+    surface.Circle(3e8, 0, 2.9e8, kWhite); // far larger than the picture
+    surface.Circle(1e20, 1e20, 5, kWhite, -1, -2);
+    surface.PSet(-1e20, 1e20);
+    surface.MoveTo(390, 1e9);
+    surface.Print("far away");
+}
+
+TEST_P(Picture, TextIsWrittenOverWhatIsThereFromItsTopLeftCorner)
+{
+    surface.MoveTo(-100, 50);
+    surface.Print("MMMM");
+    EXPECT_EQ(Wrong([](const FromCentre& at) -> std::optional<QRgb> {
+                  const bool inside = at.x > -102 && at.x < -40 && at.y < 51 && at.y > 34;
+                  return inside ? std::nullopt : std::optional(kPaper);
+              }),
+              0);
+    EXPECT_GT(Wrong([](const FromCentre&) -> std::optional<QRgb> { return kPaper; }), 50);
+}
+
+// What a frame reports as changed is all that a window repaints.
+TEST(ChangedPart, HoldsEveryPixelThatDiffersFromTheFrameBefore)
+{
+    PictureSurface picture(kPicSelvane), demo(kPicDemo);
+    FakePlatform platform;
+    Simulation sim(picture, demo, platform, TheWiring());
+    picture.SetDeviceScale(1.5);
+    Load(sim);
+    FirstShowing(sim);
+    picture.TakeChanged();
+    int small = 0;
+    auto check = [&, before = picture.Image().copy()](const char* what) mutable {
+        const QRect changed = picture.TakeChanged();
+        const QImage now = picture.Image().copy();
+        const QRectF device(QPointF(changed.topLeft()) * 1.5, QSizeF(changed.size()) * 1.5);
+        int outside = 0;
+        for (int row = 0; row < now.height(); ++row)
+            for (int column = 0; column < now.width(); ++column)
+                outside += now.pixel(column, row) != before.pixel(column, row) &&
+                           !device.contains(column + 0.5, row + 0.5);
+        EXPECT_EQ(outside, 0) << what;
+        small += changed.width() < 300;
+        before = now;
+    };
+    for (int step = 0; step < 20; ++step) {
+        Tick(sim, tmrSat);
+        check("tick");
+    }
+    EXPECT_EQ(small, 20) << "a tick's frame is mostly as it was";
+    for (const ScrollBarId bar : {sclView, sclApo, sclZoom, sclLR}) {
+        PageBar(sim, bar, 1);
+        check("bar");
+    }
+    for (const MenuId item : {mnJupiter, mnES2}) {
+        Choose(sim, item);
+        check("menu");
+        Tick(sim, tmrES2);
+        check("tick of the demo");
+    }
+    picture.TakeChanged();
+    EXPECT_TRUE(picture.TakeChanged().isEmpty());
+}

@@ -1,0 +1,454 @@
+// What only the window shows: the focus, keys, dragging, typing while the satellite flies, small
+// screens, other languages, what a screen reader is told, and which window is active.
+#include "program/program.h"
+#include "qt/appearance.h"
+#include "qt/control_widgets.h"
+#include "qt/shell.h"
+#include "replay/scripted_platform.h"
+
+#include <QAccessible>
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTest>
+#include <QWheelEvent>
+#include <QWindow>
+#include <clocale>
+#include <gtest/gtest.h>
+#include <map>
+#include <set>
+
+using namespace selvane;
+
+namespace {
+
+enum Screen { kWide = 0, kFirstSmall = 3, kScreens = 6 };
+
+class WindowTest : public testing::Test
+{
+protected:
+    replay::ScriptedPlatform platform;
+    std::unique_ptr<Shell> shell;
+
+    void SetUp() override { Start(kWide); }
+
+    void Start(int screen)
+    {
+        shell = std::make_unique<Shell>(platform);
+        shell->Clockwork().StandStill();
+        shell->Window().setScreen(QGuiApplication::screens().at(screen));
+        shell->Window().FitToScreen();
+        shell->Show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&shell->Window(), 2000));
+        QApplication::processEvents();
+    }
+
+    template <typename Widget = QWidget> Widget& Find(std::string_view name)
+    {
+        return *shell->Window().findChild<Widget*>(TextOf(name));
+    }
+    QScrollBar& Bar(ScrollBarId bar) { return Find<QScrollBar>(ScrollBarTable()[Index(bar)].name); }
+    QLineEdit& Field(FieldId field) { return Find<QLineEdit>(FieldTable()[Index(field)].name); }
+
+    const Simulation& Sim() { return shell->Sim(); }
+    void Ticks(int count)
+    {
+        for (int tick = 0; tick < count; ++tick) shell->Door().Tick(tmrSat);
+    }
+    void Do(Dispatch::Event event) { shell->Door().Report(std::move(event)); }
+
+    std::string FocusName()
+    {
+        const QWidget* const focus = QApplication::focusWidget();
+        return focus ? focus->objectName().toStdString() : "";
+    }
+};
+
+std::vector<std::string> VisibleNames(QWidget& window)
+{
+    std::vector<std::string> names;
+    for (const std::string_view name : ReadingOrder())
+        if (window.findChild<QWidget*>(TextOf(name))->isVisible()) names.emplace_back(name);
+    return names;
+}
+
+QAccessibleInterface& Spoken(QWidget& widget)
+{
+    return *QAccessible::queryAccessibleInterface(&widget);
+}
+
+} // namespace
+
+TEST_F(WindowTest, TabWalksAllControlsInReadingOrderAndTheFocusIsSeen)
+{
+    const std::vector<std::string> expected = VisibleNames(shell->Window());
+    std::vector<std::string> there, back;
+    for (std::size_t at = 0; at < expected.size(); ++at) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        there.push_back(FocusName());
+        QWidget& control = *QApplication::focusWidget();
+        const QImage focused = control.grab().toImage();
+        control.clearFocus();
+        EXPECT_NE(control.grab().toImage(), focused) << "the focus is not seen on " << there.back();
+        control.setFocus();
+    }
+    EXPECT_EQ(there, expected);
+    while (back.size() < expected.size()) {
+        back.insert(back.begin(), FocusName());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    }
+    EXPECT_EQ(back, expected);
+
+    std::size_t focusable = 0;
+    for (const auto* child :
+         Find("panel").findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        focusable += child->focusPolicy() != Qt::NoFocus;
+    EXPECT_EQ(focusable, ReadingOrder().size());
+}
+
+TEST_F(WindowTest, KeysMoveABarInTheDirectionTheyPoint)
+{
+    constexpr std::pair<Qt::Key, int> kKeys[] = {{Qt::Key_Right, 1},     {Qt::Key_Down, 1},
+                                                 {Qt::Key_Left, -1},     {Qt::Key_Up, -1},
+                                                 {Qt::Key_PageDown, 10}, {Qt::Key_PageUp, -10}};
+    for (const auto& [key, change] : kKeys) {
+        const int before = Value(Sim(), sclApo);
+        QTest::keyClick(&Bar(sclApo), key);
+        EXPECT_EQ(Value(Sim(), sclApo), before + change);
+        EXPECT_EQ(Bar(sclApo).value(), before + change);
+    }
+    QTest::keyClick(&Bar(sclApo), Qt::Key_End);
+    EXPECT_EQ(Value(Sim(), sclApo), 1000);
+
+    // The pan bars spring back to 0; which way they went the picture shows.
+    const auto moved = [&](ScrollBarId bar, Qt::Key key) {
+        const DrawingSurface& picture = Sim().picSelvane;
+        const QPointF before(picture.ScaleLeft, picture.ScaleTop);
+        QTest::keyClick(&Bar(bar), key);
+        return QPointF(picture.ScaleLeft, picture.ScaleTop) - before;
+    };
+    for (const ScrollBarId bar : {sclLR, sclUD}) {
+        const QPointF raised = moved(bar, Qt::Key_Down);
+        EXPECT_EQ(moved(bar, Qt::Key_Right), raised);
+        EXPECT_EQ(moved(bar, Qt::Key_Left), -raised);
+        EXPECT_EQ(moved(bar, Qt::Key_Up), -raised);
+        EXPECT_EQ(moved(bar, Qt::Key_PageUp), -10 * raised);
+        EXPECT_GT(raised.manhattanLength(), 0);
+        EXPECT_EQ(Bar(bar).value(), 0);
+    }
+    Bar(sclPeri).setFocus();
+    QTest::keyClick(&Bar(sclPeri), Qt::Key_Home); // the program goes on to 0
+    EXPECT_EQ(Bar(sclPeri).value(), 0);
+    EXPECT_EQ(Field(txtPeri).text(), "0");
+}
+
+TEST_F(WindowTest, TheWheelTurnsTheBarWithTheFocusAndNoOther)
+{
+    const auto turn = [&](int angle) {
+        QScrollBar& bar = Bar(sclApo);
+        QWheelEvent event(QPointF(5, 5), bar.mapToGlobal(QPointF(5, 5)), {}, {0, angle},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(&bar, &event);
+    };
+    turn(-120);
+    EXPECT_EQ(Value(Sim(), sclApo), 32);
+    Bar(sclApo).setFocus();
+    turn(-120);
+    EXPECT_EQ(Value(Sim(), sclApo), 33);
+    turn(60);
+    turn(60); // a fine wheel's two halves of a notch
+    EXPECT_EQ(Value(Sim(), sclApo), 32);
+}
+
+TEST_F(WindowTest, SpaceAndEnterPressAndTheFocusStaysAtItsPlace)
+{
+    Find("btnPause").setFocus();
+    QTest::keyClick(&Find("btnPause"), Qt::Key_Space);
+    EXPECT_FALSE(Sim().controls.timers[Index(tmrSat)].enabled);
+    EXPECT_EQ(FocusName(), "btnPlay");
+    QTest::keyClick(&Find("btnPlay"), Qt::Key_Return);
+    EXPECT_TRUE(Sim().controls.timers[Index(tmrSat)].enabled);
+    EXPECT_EQ(FocusName(), "btnPause");
+
+    Field(txtPeri).setFocus();
+    QTest::mouseClick(&Find("btnPause"), Qt::LeftButton);
+    QTest::mouseClick(&Find("panel"), Qt::LeftButton, {}, {500, 640});
+    EXPECT_EQ(FocusName(), "txtPeri") << "a click on a button or beside leaves the field its focus";
+
+    Do([](Simulation& sim) { Choose(sim, mnGeo); });
+    QWidget& link = Find("lblReturnToTutorial");
+    ASSERT_TRUE(link.isVisible());
+    link.setFocus();
+    QTest::keyClick(&link, Qt::Key_Enter);
+    EXPECT_EQ(Sim().controls.txtHelp.document, "Help(20).rtf");
+}
+
+TEST_F(WindowTest, MenusOpenByKeyAndEveryItemHasAnAccessKey)
+{
+    QTest::keyClick(&shell->Window(), Qt::Key_F10);
+    EXPECT_EQ(shell->Window().menuBar()->activeAction(), &Find<QAction>("mnFile"));
+    QTest::keyClick(shell->Window().menuBar(), Qt::Key_Escape);
+
+    std::map<std::optional<MenuId>, std::set<QChar>> keys;
+    for (const MenuRow& row : MenuTable()) {
+        QString text = Find<QAction>(row.name).text();
+        if (row.caption.empty()) continue;
+        EXPECT_TRUE(keys[row.under].insert(text.at(text.indexOf('&') + 1).toLower()).second);
+        EXPECT_EQ(text.remove('&'), TextOf(row.caption));
+        EXPECT_EQ(Find<QAction>(row.name).isChecked(),
+                  row.checked || row.id == mnSatelliteTracking);
+    }
+    for (const MenuId item : {mnMars, mnGeo, mnEarth, mnEarth, mnSunSynch, mnViewSatellite}) {
+        Find<QAction>(MenuTable()[Index(item)].name).trigger(); // it flips, and is put right
+        for (const MenuRow& row : MenuTable())
+            EXPECT_EQ(Find<QAction>(row.name).isChecked(), IsChecked(Sim(), row.id)) << row.name;
+    }
+
+    QTest::keyClick(&shell->Window(), Qt::Key_F1);
+    EXPECT_TRUE(IsActive(Sim(), WindowId::UserGuide));
+    EXPECT_TRUE(shell->Windows().Widget(WindowId::UserGuide)->isVisible());
+}
+
+TEST_F(WindowTest, TicksLeaveTheFieldThatIsBeingTypedInAlone)
+{
+    QLineEdit& field = Field(txtApo);
+    field.setFocus();
+    field.selectAll();
+    QTest::keyClicks(&field, "4500");
+    field.setCursorPosition(1);
+    QTest::keyClick(&field, Qt::Key_Right, Qt::ShiftModifier);
+    Ticks(3);
+    EXPECT_EQ(field.text(), "4500");
+    EXPECT_EQ(Text(Sim(), txtApo), "4500");
+    EXPECT_EQ(field.selectedText(), "5");
+    EXPECT_TRUE(field.isUndoAvailable());
+    QTest::keyClick(&field, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NE(field.text(), "4500");
+    EXPECT_EQ(field.text().toStdString(), Text(Sim(), txtApo));
+
+    QTest::keyClick(&Bar(sclApo), Qt::Key_Right);
+    EXPECT_EQ(field.text(), "3300") << "a bar rewrites what was typed";
+}
+
+TEST_F(WindowTest, AFieldThatDescribesNoOrbitSaysSoUntilItDoes)
+{
+    QLineEdit& field = Field(txtSMajAxis);
+    const QColor usual = field.palette().color(QPalette::Text);
+    field.setText("");
+    QTest::keyClicks(&field, "wide");
+    QTest::mouseClick(&Find("btnAxisCalculate"), Qt::LeftButton);
+    EXPECT_NE(field.palette().color(QPalette::Text), usual);
+    EXPECT_FALSE(field.toolTip().isEmpty());
+    EXPECT_EQ(Spoken(field).text(QAccessible::Description), field.toolTip());
+    for (const FieldId either : {txtSMinAxis, txtSMajAxis}) {
+        Field(either).clear();
+        QTest::keyClicks(&Field(either), "9000");
+    }
+    Ticks(1);
+    EXPECT_EQ(field.palette().color(QPalette::Text), usual);
+    EXPECT_TRUE(field.toolTip().isEmpty());
+}
+
+TEST_F(WindowTest, AThumbThatIsHeldStaysInTheHandThroughTicksAndCountsWhenLetGo)
+{
+    QScrollBar& bar = Bar(sclViewD);
+    const int before = bar.value();
+    const QPoint thumb(bar.width() / 2 + 2, bar.height() / 2);
+    QTest::mousePress(&bar, Qt::LeftButton, {}, thumb);
+    ASSERT_TRUE(bar.isSliderDown());
+    QTest::mouseMove(&bar, thumb + QPoint(6, 0));
+    const int held = bar.sliderPosition();
+    ASSERT_NE(held, before);
+    Ticks(5);
+    EXPECT_TRUE(bar.isSliderDown());
+    EXPECT_EQ(bar.sliderPosition(), held);
+    EXPECT_EQ(Value(Sim(), sclViewD), before);
+    QTest::mouseRelease(&bar, Qt::LeftButton, {}, thumb + QPoint(6, 0));
+    EXPECT_NE(Value(Sim(), sclViewD), before);
+    EXPECT_EQ(bar.value(), Value(Sim(), sclViewD));
+}
+
+TEST_F(WindowTest, ATickThatChangesNoIntervalKeepsTheBeat)
+{
+    shell = nullptr;
+    shell = std::make_unique<Shell>(platform); // with its timers running
+    shell->Show();
+    QTimer& timer = *shell->Clockwork().findChild<QTimer*>("tmrSat");
+    ASSERT_TRUE(timer.isActive());
+    EXPECT_EQ(timer.timerType(), Qt::PreciseTimer);
+    QTest::qSleep(40);
+    const int left = timer.remainingTime();
+    ASSERT_LT(left, 215);
+    Do([](Simulation&) {});
+    EXPECT_LE(timer.remainingTime(), left);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return Sim().controls.timers[Index(tmrSat)].interval != 250; }, 2000));
+    EXPECT_EQ(timer.interval(), Sim().controls.timers[Index(tmrSat)].interval);
+
+    shell->Window().hide(); // nobody sees it fly
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !timer.isActive(); }, 2000));
+    EXPECT_TRUE(Sim().controls.timers[Index(tmrSat)].enabled);
+    shell->Window().show();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return timer.isActive(); }, 2000));
+}
+
+TEST_F(WindowTest, TheMarkerStaysOnTheOrbitUnderZoomAndPan)
+{
+    QWidget& marker = Find("lblSat");
+    EXPECT_FALSE(marker.isVisible()) << "it has no place before the first step";
+    Ticks(100);
+    const auto expectInPlace = [&] {
+        const Marker& record = Sim().controls.lblSat;
+        const DrawingSurface& picture = Sim().picSelvane;
+        EXPECT_EQ(marker.x(),
+                  qRound((*record.left - picture.ScaleLeft) * 800 / picture.ScaleWidth));
+        EXPECT_EQ(marker.y(), qRound((*record.top - picture.ScaleTop) * 600 / picture.ScaleHeight));
+        EXPECT_EQ(marker.isVisible(), record.visible);
+    };
+    expectInPlace();
+    for (const ScrollBarId bar : {sclZoom, sclLR, sclUD}) {
+        const QPoint before = marker.pos();
+        QTest::keyClick(&Bar(bar), Qt::Key_PageDown);
+        EXPECT_NE(marker.pos(), before);
+        expectInPlace();
+    }
+    Find<QAction>("mnViewSatellite").trigger();
+    EXPECT_FALSE(marker.isVisible());
+}
+
+TEST_F(WindowTest, TheWindowFitsEveryScreenAndTheFocusScrollsIntoView)
+{
+    for (int screen = kWide; screen < kScreens; ++screen) {
+        Start(screen);
+        MainWindow& window = shell->Window();
+        const QRect room = window.screen()->availableGeometry();
+        ASSERT_EQ(window.screen(), QGuiApplication::screens().at(screen));
+        EXPECT_TRUE(room.contains(window.frameGeometry()));
+        const auto& area = Find<QScrollArea>("area");
+        const bool small = screen >= kFirstSmall;
+        EXPECT_EQ(area.verticalScrollBar()->isVisible(), small) << screen;
+        EXPECT_EQ(area.horizontalScrollBar()->isVisible(), room.width() < kClientWidth) << screen;
+        for (const std::string& name : VisibleNames(window)) {
+            Find(name).setFocus();
+            EXPECT_EQ(Find(name).visibleRegion().boundingRect(), Find(name).rect()) << name;
+        }
+        EXPECT_EQ(static_cast<const PictureSurface&>(Sim().picSelvane).DeviceScale(),
+                  window.devicePixelRatioF());
+
+        for (const MenuId item : {mnUserGuide, mnAbout}) {
+            Do([item](Simulation& sim) {
+                ActivateByUser(sim, WindowId::Main);
+                Choose(sim, item);
+            });
+            const WindowId opened = Sim().windows.order.back();
+            const QRect other = shell->Windows().Widget(opened)->frameGeometry();
+            EXPECT_TRUE(std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen* any) {
+                return any->availableGeometry().contains(other);
+            }));
+        }
+    }
+}
+
+TEST_F(WindowTest, CaptionsAreTheSameInEveryLanguage)
+{
+    const auto captions = [&] {
+        Start(kWide);
+        Ticks(30);
+        QStringList all;
+        for (const auto* label : shell->Window().findChildren<QLabel*>()) all += label->text();
+        for (const auto* action : shell->Window().findChildren<QAction*>()) all += action->text();
+        for (const auto* field : shell->Window().findChildren<QLineEdit*>()) all += field->text();
+        return all;
+    };
+    const QLocale before;
+    const QStringList expected = captions();
+    EXPECT_TRUE(expected.contains("Zoom"));
+    for (const char* const name : {"de_DE", "fr_FR", "tr_TR", "ar_EG", "hi_IN"}) {
+        QLocale::setDefault(QLocale(name));
+        std::setlocale(LC_ALL, (std::string(name) + ".UTF-8").c_str());
+        EXPECT_EQ(captions(), expected) << name;
+    }
+    QLocale::setDefault(before);
+    std::setlocale(LC_ALL, "C");
+}
+
+TEST_F(WindowTest, AScreenReaderIsToldEveryControl)
+{
+    constexpr std::pair<const char*, QAccessible::Role> kRoles[] = {
+        {"picSelvane", QAccessible::Graphic},      {"picDemo", QAccessible::Graphic},
+        {"sclPeri", QAccessible::ScrollBar},       {"txtPeri", QAccessible::EditableText},
+        {"btnReverse", QAccessible::Button},       {"lblReturnToTutorial", QAccessible::Link},
+        {"lblOutput(0)", QAccessible::StaticText}, {"lblSat", QAccessible::Client}};
+    for (const auto& [name, role] : kRoles) EXPECT_EQ(Spoken(Find(name)).role(), role) << name;
+    for (const std::string_view name : ReadingOrder())
+        EXPECT_FALSE(Spoken(Find(name)).text(QAccessible::Name).isEmpty()) << name;
+    const std::pair<const char*, const char*> kNames[] = {{"sclPeri", "Periapsis (km)"},
+                                                          {"txtE", "Eccentricity"},
+                                                          {"btnAdvance", "Step forward"},
+                                                          {"sclUD", "Pan up and down"},
+                                                          {"lblOutput(4)", "Eccentricity = 0.157"}};
+    for (const auto& [name, spoken] : kNames)
+        EXPECT_EQ(Spoken(Find(name)).text(QAccessible::Name), spoken);
+
+    Find<QAction>("mnTimeStandards").trigger(); // the range bar goes with the step
+    EXPECT_EQ(Spoken(Bar(sclRange)).text(QAccessible::Name), "Solar Days");
+
+    const auto words = [&] { return Spoken(Find("picSelvane")).text(QAccessible::Description); };
+    EXPECT_TRUE(words().startsWith("Earth with the orbit"));
+    const QString flying = words();
+    Ticks(40);
+    EXPECT_EQ(words(), flying) << "not at each tick";
+    QTest::mouseClick(&Find("btnPause"), Qt::LeftButton);
+    EXPECT_NE(words(), flying);
+    EXPECT_TRUE(words().contains("true anomaly")) << words().toStdString();
+    EXPECT_TRUE(Spoken(Find("picDemo")).text(QAccessible::Description).contains("step 1 of 2"));
+
+    std::set<QString> names; // tests and screen readers find a control by its name
+    for (const auto* child :
+         Find("panel").findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+        EXPECT_TRUE(names.insert(child->objectName()).second) << child->metaObject()->className();
+}
+
+TEST_F(WindowTest, OnlyAReturnFromTheProgramsOwnWindowsStartsOver)
+{
+    const auto tutorialOpen = [&] { return IsChecked(Sim(), mnSatelliteTracking); };
+    ASSERT_TRUE(tutorialOpen()); // each return turns it round
+
+    const auto reactivate = [&](QWidget& window) {
+        QEvent leave(QEvent::WindowDeactivate), come(QEvent::WindowActivate);
+        QApplication::sendEvent(&window, &leave);
+        QApplication::sendEvent(&window, &come);
+    };
+    reactivate(shell->Window()); // from another program
+    EXPECT_TRUE(tutorialOpen());
+
+    Find<QAction>("mnAbout").trigger();
+    QWidget* const about = shell->Windows().Widget(WindowId::About);
+    ASSERT_TRUE(about && QTest::qWaitForWindowActive(about, 2000));
+    reactivate(*about);
+    EXPECT_TRUE(IsActive(Sim(), WindowId::About));
+
+    QTest::mouseClick(&Find("btnPause"), Qt::LeftButton); // the window first, then the click
+    EXPECT_FALSE(tutorialOpen());
+    EXPECT_TRUE(Find("btnPlay").isVisible());
+
+    about->close(); // behind the main window: nothing else changes
+    EXPECT_EQ(shell->Windows().Widget(WindowId::About), nullptr);
+    EXPECT_FALSE(tutorialOpen());
+
+    Find<QAction>("mnUserGuide").trigger();
+    shell->Windows().Widget(WindowId::UserGuide)->close(); // in front: back to the main window
+    EXPECT_TRUE(tutorialOpen());
+    EXPECT_TRUE(Find("btnPause").isVisible());
+
+    Find<QAction>("mnUserGuide").trigger();
+    shell->Window().close();
+    EXPECT_FALSE(Sim().windows.running);
+    EXPECT_EQ(shell->Windows().Widget(WindowId::UserGuide), nullptr);
+}
