@@ -7,8 +7,8 @@ namespace selvane {
 // The tables are read across: one control, one line.
 // clang-format off
 
-const PictureRow kPicSelvane{"picSelvane", { 16, 8, 800, 600}, kBlack};
-const PictureRow kPicDemo   {"picDemo",    {824, 8, 400, 300}, kBlack};
+const PictureRow kPicSelvane{"picSelvane", { 16, 8, 800, 600}, kBlack, {224, 224, 224}, {0, 255, 255}};
+const PictureRow kPicDemo   {"picDemo",    {824, 8, 400, 300}, kBlack, kBlack, kBlack};
 
 namespace {
 

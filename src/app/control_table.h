@@ -83,7 +83,7 @@ struct PictureRow
 {
     std::string_view name;
     Place place;
-    Colour background;
+    Colour background, foreColor, fillColor; // at the start
 };
 
 // A rectangle that frames a panel.
