@@ -8,6 +8,9 @@
 
 namespace selvane {
 
+// Names stand as in the control table, several a line.
+// clang-format off
+
 enum class ScrollBarId {
     sclPeri, sclApo, sclPeriE, sclE, sclSMinAxis, sclSMajAxis, sclIncl, sclRot, sclARGP, sclView,
     sclZoom, sclLR, sclUD, sclViewD, sclRange
@@ -45,6 +48,8 @@ enum class MenuId {
     mnMars, mnJupiter, mnHelp, mnUserGuide, mnSeparator, mnAbout
 };
 inline constexpr std::size_t kMenuCount = 22;
+
+// clang-format on
 
 // The read-out of that index, 0 to 16.
 constexpr LabelId lblOutput(int index)

@@ -50,7 +50,12 @@ struct Simulation
           picDemo(tutorialPicture),
           platform(machine),
           wiring(wires)
-    {}
+    {
+        picSelvane.ForeColor = kPicSelvane.foreColor;
+        picSelvane.FillColor = kPicSelvane.fillColor;
+        picDemo.ForeColor = kPicDemo.foreColor;
+        picDemo.FillColor = kPicDemo.fillColor;
+    }
 
     SimState state;
     Controls controls;
