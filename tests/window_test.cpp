@@ -191,9 +191,13 @@ TEST_F(WindowTest, SpaceAndEnterPressAndTheFocusStaysAtItsPlace)
 
 TEST_F(WindowTest, MenusOpenByKeyAndEveryItemHasAnAccessKey)
 {
-    QTest::keyClick(&shell->Window(), Qt::Key_F10);
-    EXPECT_EQ(shell->Window().menuBar()->activeAction(), &Find<QAction>("mnFile"));
-    QTest::keyClick(shell->Window().menuBar(), Qt::Key_Escape);
+    QMenuBar& bar = *shell->Window().menuBar();
+    for (const Qt::Key key : {Qt::Key_F10, Qt::Key_Alt}) {
+        QTest::keyClick(&Field(txtPeri), key);
+        EXPECT_EQ(bar.activeAction(), &Find<QAction>("mnFile")) << key;
+        QTest::keyClick(&bar, Qt::Key_Escape);
+        EXPECT_EQ(bar.activeAction(), nullptr);
+    }
 
     std::map<std::optional<MenuId>, std::set<QChar>> keys;
     for (const MenuRow& row : MenuTable()) {

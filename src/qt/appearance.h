@@ -27,6 +27,7 @@ inline constexpr double kTextPoints = 9; // wherever nothing else is said
 
 inline constexpr QColor kLinkColour{0, 0, 255};
 inline constexpr QColor kFocusColour{0, 95, 204};
+inline constexpr QColor kFocusFill{158, 200, 255};
 inline constexpr QColor kFrameColour{128, 128, 128};
 inline constexpr QColor kFaultColour{192, 0, 0};
 

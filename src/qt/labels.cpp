@@ -1,7 +1,6 @@
 #include "qt/labels.h"
 
 #include "qt/appearance.h"
-#include "qt/focus_frame.h"
 
 #include <QFontMetrics>
 #include <QKeyEvent>
@@ -89,10 +88,9 @@ void LinkLabel::keyPressEvent(QKeyEvent* event)
 void LinkLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    if (hasFocus()) painter.fillRect(rect(), kFocusFill); // a frame would cut into the text
     painter.setPen(isDown() ? kLinkColour.darker() : kLinkColour);
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignTop, text());
-    painter.end();
-    if (hasFocus()) DrawFocusFrame(*this);
 }
 
 bool LinkLabel::hitButton(const QPoint& at) const { return rect().contains(at); }
