@@ -60,6 +60,7 @@ void SetUpApplication(QApplication& application)
     application.setPalette(LightPalette());
     application.setFont(FontOf(kTextPoints));
     application.setWindowIcon(ApplicationIcon());
+    QApplication::setCursorFlashTime(0); // a caret that blinks keeps a program at rest awake
     QToolTip::setPalette(LightPalette());
     QToolTip::setFont(FontOf(kTextPoints));
 }
