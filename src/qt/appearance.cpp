@@ -39,10 +39,23 @@ QPalette LightPalette()
     return palette;
 }
 
+QtMessageHandler toolkitsOwnHandler = nullptr;
+
+// Remarks of the toolkit about the machine that are no concern of the user's: a root shell has no
+// runtime folder, and screens that nobody sees know no size hints. All others pass.
+void PassMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
+{
+    for (const char* const remark : {"QStandardPaths: XDG_RUNTIME_DIR not set",
+                                     "This plugin does not support propagateSizeHints"})
+        if (text.startsWith(remark)) return;
+    toolkitsOwnHandler(type, context, text);
+}
+
 } // namespace
 
 void PrepareApplication()
 {
+    toolkitsOwnHandler = qInstallMessageHandler(PassMessage);
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     // The desktop's theme would bring its own palette, fonts and messages.
