@@ -87,7 +87,7 @@ TEST(RichTextSyntax, WordsSymbolsAndTheirDelimiters)
         {R"(a{\*\unknown b{c}d}e{\unknown f}g\*\b h)", "aefgh"},
         {R"(a\bin3 }}}b{\*\gone\bin2 {{}c\bin-5 d)", "abcd"},
     });
-    EXPECT_EQ(Text(std::string("a\0b\\'00c\\u0 ?d", 16)), "abcd");
+    EXPECT_EQ(Text(std::string("a\0b\\'00c\\u0 ?d", 14)), "abcd");
 }
 
 TEST(RichTextCharacters, CodePagesOfDocumentAndFont)
