@@ -7,7 +7,6 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolTip>
-
 #include <clocale>
 
 namespace selvane {
@@ -21,8 +20,8 @@ QPalette LightPalette()
     const QColor ink = Qt::black;
     const QColor faded(120, 120, 120);
     QPalette palette(face);
-    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
-                            QPalette::ToolTipText})
+    for (const auto role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::ToolTipText})
         palette.setColor(role, ink);
     palette.setColor(QPalette::Window, face);
     palette.setColor(QPalette::Button, QColor(239, 239, 239));
@@ -66,7 +65,6 @@ void SetUpApplication(QApplication& application)
 {
     std::setlocale(LC_NUMERIC, "C");
     application.setApplicationName("selvane");
-    application.setApplicationDisplayName(TextOf(kApplicationTitle));
     application.setDesktopFileName("org.example.selvane");
     application.setLayoutDirection(Qt::LeftToRight);
     application.setStyle(QStyleFactory::create("Fusion"));

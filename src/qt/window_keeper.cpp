@@ -8,7 +8,6 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QScreen>
-
 #include <algorithm>
 
 namespace selvane {
@@ -84,8 +83,18 @@ void WindowKeeper::Open(WindowId window)
         take(std::make_unique<UserGuideFrame>(door_));
     else
         take(std::make_unique<AboutFrame>(door_));
+    made.frameKnown = false;
     made.widget->installEventFilter(this);
     KeepOnScreen(*made.widget);
+}
+
+// The desktop's frame is known once the window is active.
+void WindowKeeper::KeepFrameOnScreen(WindowId window)
+{
+    Secondary& shown = secondary_[static_cast<std::size_t>(window)];
+    if (!shown.widget || shown.frameKnown) return;
+    shown.frameKnown = true;
+    KeepOnScreen(*shown.widget);
 }
 
 // The window may be in the middle of one of its own events.
@@ -126,7 +135,10 @@ bool WindowKeeper::eventFilter(QObject* watched, QEvent* event)
 {
     const bool handled = QObject::eventFilter(watched, event);
     const std::optional<WindowId> window = Which(watched);
-    if (window && event->type() == QEvent::WindowActivate) TellActivated(*window);
+    if (window && event->type() == QEvent::WindowActivate) {
+        KeepFrameOnScreen(*window);
+        TellActivated(*window);
+    }
     if (window && event->type() == QEvent::Close)
         door_.Report([id = *window](Simulation& sim) { CloseByUser(sim, id); });
     return handled;

@@ -6,7 +6,6 @@
 
 #include <QDeadlineTimer>
 #include <QObject>
-
 #include <array>
 #include <functional>
 #include <memory>
@@ -44,6 +43,7 @@ private:
     {
         std::unique_ptr<QWidget> widget;
         std::function<void(const Simulation&)> mirror;
+        bool frameKnown = false;
     };
 
     bool MatchSecondary(const Simulation& sim, WindowId window);
@@ -51,6 +51,7 @@ private:
     void Drop(WindowId window);
     void BringUp(WindowId window);
     void TellActivated(WindowId window);
+    void KeepFrameOnScreen(WindowId window);
     std::optional<WindowId> Which(const QObject* widget) const;
 
     Dispatch& door_;
