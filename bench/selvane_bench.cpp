@@ -8,10 +8,8 @@
 #include "scene/projection.h"
 #include "scene/rotating_globe.h"
 
-#include <benchmark/benchmark.h>
-
 #include <QApplication>
-
+#include <benchmark/benchmark.h>
 #include <cstdio>
 #include <map>
 #include <string>
@@ -35,7 +33,10 @@ struct Scene
     }
 };
 
-double ScaleOf(const benchmark::State& state) { return static_cast<double>(state.range(0)) / 100; }
+double ScaleOf(const benchmark::State& state)
+{
+    return static_cast<double>(state.range(0)) / 100;
+}
 
 void Clear(benchmark::State& state)
 {

@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
-
 #include <cstdio>
 #include <string>
 

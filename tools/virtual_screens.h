@@ -5,7 +5,6 @@
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTextStream>
-
 #include <initializer_list>
 
 namespace selvane {

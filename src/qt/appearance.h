@@ -8,7 +8,6 @@
 #include <QFont>
 #include <QRect>
 #include <QString>
-
 #include <string_view>
 
 class QApplication;
@@ -31,7 +30,10 @@ inline constexpr QColor kFocusFill{158, 200, 255};
 inline constexpr QColor kFrameColour{128, 128, 128};
 inline constexpr QColor kFaultColour{192, 0, 0};
 
-inline QColor ColourOf(Colour colour) { return {colour.red, colour.green, colour.blue}; }
+inline QColor ColourOf(Colour colour)
+{
+    return {colour.red, colour.green, colour.blue};
+}
 inline QRect RectOf(const Place& place)
 {
     return {place.left, place.top, place.width, place.height};

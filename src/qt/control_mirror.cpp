@@ -10,7 +10,6 @@
 
 #include <QAction>
 #include <QSignalBlocker>
-
 #include <algorithm>
 
 namespace selvane {

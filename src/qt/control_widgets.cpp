@@ -18,16 +18,19 @@ namespace selvane {
 
 namespace {
 
+// Row by row, as they stand in the window.
+// clang-format off
 constexpr std::string_view kReadingOrder[] = {
-    "sclUD",       "sclLR",       "Command1",    "sclView",           "txtView",
-    "btnReverse",  "btnPause",    "btnPlay",     "btnAdvance",        "sclZoom",
-    "txtZoom",     "sclPeri",     "txtPeri",     "sclApo",            "txtApo",
-    "btnApsisCalculate",          "sclPeriE",    "txtPeriE",          "sclE",
-    "txtE",        "btnECalculate",              "sclSMinAxis",       "txtSMinAxis",
-    "sclSMajAxis", "txtSMajAxis", "btnAxisCalculate",                 "sclIncl",
-    "txtIncl",     "sclRot",      "txtRot",      "sclARGP",           "txtARGP",
-    "sclViewD",    "txtViewD",    "btnBack2",    "btnNext2",          "sclRange",
-    "txtRange",    "txtHelp",     "lblReturnToTutorial"};
+    "sclUD", "sclLR", "Command1",
+    "sclView", "txtView", "btnReverse", "btnPause", "btnPlay", "btnAdvance", "sclZoom", "txtZoom",
+    "sclPeri", "txtPeri", "sclApo", "txtApo", "btnApsisCalculate",
+    "sclPeriE", "txtPeriE", "sclE", "txtE", "btnECalculate",
+    "sclSMinAxis", "txtSMinAxis", "sclSMajAxis", "txtSMajAxis", "btnAxisCalculate",
+    "sclIncl", "txtIncl", "sclRot", "txtRot", "sclARGP", "txtARGP",
+    "sclViewD", "txtViewD", "btnBack2", "btnNext2", "sclRange", "txtRange",
+    "txtHelp", "lblReturnToTutorial",
+};
+// clang-format on
 
 class ControlBuilder
 {
@@ -83,11 +86,10 @@ private:
         LabelWidget& label = widgets.labels[Index(row.id)];
         if (door_.Sim().wiring.label[Index(row.id)]) {
             label.link = new LinkLabel(TextOf(row.caption), row.place, &panel_);
-            QObject::connect(label.link, &QAbstractButton::clicked, &door_,
-                             [door = &door_, id = row.id] {
-                                 door->Act(WindowId::Main,
-                                           [id](Simulation& sim) { ClickLabel(sim, id); });
-                             });
+            QObject::connect(
+                label.link, &QAbstractButton::clicked, &door_, [door = &door_, id = row.id] {
+                    door->Act(WindowId::Main, [id](Simulation& sim) { ClickLabel(sim, id); });
+                });
         } else {
             QWidget& parent = row.id == lblPlanet ? *widgets.picSelvane : panel_;
             label.caption = new CaptionLabel(row, &parent);
@@ -123,12 +125,10 @@ private:
         bar->setAccessibleName(SpokenNameOf(row, caption.caption));
         const bool pans = row.id == sclLR || row.id == sclUD;
         bar->setAccessibleDescription(pans ? "Moves the picture." : TextOf(caption.toolTip));
-        QObject::connect(bar, &QAbstractSlider::valueChanged, &door_,
-                         [door = &door_, id = row.id](int value) {
-                             door->Act(WindowId::Main, [id, value](Simulation& sim) {
-                                 Scroll(sim, id, value);
-                             });
-                         });
+        QObject::connect(
+            bar, &QAbstractSlider::valueChanged, &door_, [door = &door_, id = row.id](int value) {
+                door->Act(WindowId::Main, [id, value](Simulation& sim) { Scroll(sim, id, value); });
+            });
     }
 
     void AddField(const FieldRow& row)
@@ -146,10 +146,10 @@ private:
         QObject::connect(field, &QLineEdit::textChanged, &door_,
                          [door = &door_, id = row.id, field](const QString& text) {
                              field->setModified(true);
-                             door->Act(WindowId::Main, [id, typed = text.toStdString()](
-                                                           Simulation& sim) {
-                                 Type(sim, id, typed);
-                             });
+                             door->Act(WindowId::Main,
+                                       [id, typed = text.toStdString()](Simulation& sim) {
+                                           Type(sim, id, typed);
+                                       });
                          });
     }
 
@@ -190,10 +190,9 @@ private:
     {
         const QRect picture = widgets.picSelvane->geometry();
         QRegion covered;
-        for (const QWidget* over :
-             {static_cast<QWidget*>(widgets.bars[Index(sclLR)]),
-              static_cast<QWidget*>(widgets.bars[Index(sclUD)]),
-              static_cast<QWidget*>(widgets.buttons[Index(Command1)])})
+        for (const QWidget* over : {static_cast<QWidget*>(widgets.bars[Index(sclLR)]),
+                                    static_cast<QWidget*>(widgets.bars[Index(sclUD)]),
+                                    static_cast<QWidget*>(widgets.buttons[Index(Command1)])})
             covered += over->geometry().translated(-picture.topLeft());
         widgets.picSelvane->SetCovered(covered);
     }
@@ -229,7 +228,10 @@ ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
     return builder.widgets;
 }
 
-std::span<const std::string_view> ReadingOrder() { return kReadingOrder; }
+std::span<const std::string_view> ReadingOrder()
+{
+    return kReadingOrder;
+}
 
 QString SpokenNameOf(const ScrollBarRow& row, std::string_view caption)
 {

@@ -6,7 +6,6 @@
 #include "app/simulation.h"
 
 #include <QString>
-
 #include <array>
 #include <span>
 #include <string_view>

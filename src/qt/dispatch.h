@@ -7,7 +7,6 @@
 #include "app/windows.h"
 
 #include <QObject>
-
 #include <deque>
 #include <functional>
 

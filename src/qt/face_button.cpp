@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPainterPath>
-
 #include <algorithm>
 
 namespace selvane {

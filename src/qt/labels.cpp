@@ -5,7 +5,6 @@
 #include <QFontMetrics>
 #include <QKeyEvent>
 #include <QPainter>
-
 #include <algorithm>
 
 namespace selvane {
@@ -93,6 +92,9 @@ void LinkLabel::paintEvent(QPaintEvent*)
     painter.drawText(rect(), Qt::AlignLeft | Qt::AlignTop, text());
 }
 
-bool LinkLabel::hitButton(const QPoint& at) const { return rect().contains(at); }
+bool LinkLabel::hitButton(const QPoint& at) const
+{
+    return rect().contains(at);
+}
 
 } // namespace selvane

@@ -14,7 +14,6 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStyle>
-
 #include <algorithm>
 
 namespace selvane {

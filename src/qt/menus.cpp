@@ -7,7 +7,6 @@
 #include <QAction>
 #include <QMenu>
 #include <QMenuBar>
-
 #include <map>
 #include <optional>
 

@@ -1,4 +1,5 @@
-// NumberLine: a single-line field that is typed in, slim enough for the layout's low, narrow fields.
+// NumberLine: a single-line field that is typed in, slim enough for the layout's low, narrow
+// fields.
 #pragma once
 
 #include <QLineEdit>

@@ -4,7 +4,6 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -27,8 +26,8 @@ void PictureSurface::SetDeviceScale(double scale)
     std::vector<Pixel> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
                               background_);
     if (!pixels_.empty()) {
-        const QImage old = Image().scaled(width, height, Qt::IgnoreAspectRatio,
-                                          Qt::SmoothTransformation);
+        const QImage old =
+            Image().scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         for (int y = 0; y < height; ++y)
             std::copy_n(reinterpret_cast<const Pixel*>(old.constScanLine(y)), width,
                         pixels.data() + static_cast<std::ptrdiff_t>(y) * width);
@@ -136,8 +135,8 @@ void PictureSurface::OnCircle(float x, float y, float radius, Colour outline,
     const Canvas canvas = Target();
     const DevicePoint centre = Place(x, y);
     const double size = Length(radius);
-    frame_.Add({centre.x, centre.y, size, 1.0 * PixelOf(outline),
-                fill ? 1.0 * PixelOf(*fill) : 0.0});
+    frame_.Add(
+        {centre.x, centre.y, size, 1.0 * PixelOf(outline), fill ? 1.0 * PixelOf(*fill) : 0.0});
     if (!fill) {
         DrawRing(canvas, centre, size, scale_, PixelOf(outline));
         return;
@@ -169,8 +168,8 @@ void PictureSurface::OnSector(float x, float y, float radius, Colour outline,
     const double size = Length(radius);
     const double half = scale_ / 2;
     const Wedge wedge{-start, -end};
-    frame_.Add({centre.x, centre.y, size, 1.0 * PixelOf(outline), 1.0 * PixelOf(*fill), start,
-                end});
+    frame_.Add(
+        {centre.x, centre.y, size, 1.0 * PixelOf(outline), 1.0 * PixelOf(*fill), start, end});
     FillSector(canvas, centre, size + half, wedge, half, PixelOf(outline));
     if (*fill != outline) FillSector(canvas, centre, size - half, wedge, -half, PixelOf(*fill));
 }
@@ -206,8 +205,8 @@ const PictureSurface::TextMask& PictureSurface::MaskOf(std::string_view text)
     const QFont font = FontOf(9, Weight::Bold);
     const QFontMetricsF metrics(font);
     TextMask mask;
-    mask.width = std::max(1, static_cast<int>(
-                                 std::ceil((metrics.horizontalAdvance(string) + 2) * scale_)));
+    mask.width =
+        std::max(1, static_cast<int>(std::ceil((metrics.horizontalAdvance(string) + 2) * scale_)));
     mask.height = std::max(1, static_cast<int>(std::ceil(metrics.height() * scale_)));
     QImage image(mask.width, mask.height, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(scale_);

@@ -10,7 +10,6 @@
 #include <QHash>
 #include <QImage>
 #include <QRect>
-
 #include <initializer_list>
 #include <vector>
 

@@ -21,7 +21,10 @@ void PictureWidget::ShowFrame()
     if (!changed.isEmpty()) update(QRegion(changed) - covered_);
 }
 
-void PictureWidget::MatchScreen() { surface_.SetDeviceScale(devicePixelRatioF()); }
+void PictureWidget::MatchScreen()
+{
+    surface_.SetDeviceScale(devicePixelRatioF());
+}
 
 void PictureWidget::paintEvent(QPaintEvent* event)
 {

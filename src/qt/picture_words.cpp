@@ -7,7 +7,10 @@ namespace selvane {
 
 namespace {
 
-std::string Whole(double number) { return FixedNumber(number, 0); }
+std::string Whole(double number)
+{
+    return FixedNumber(number, 0);
+}
 
 std::string SatelliteWords(const Simulation& sim)
 {

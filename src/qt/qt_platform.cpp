@@ -21,7 +21,10 @@ constexpr char kFirstDocument[] = "Help(20).rtf";
 constexpr RegistryKey kToolKey{1};
 constexpr std::uint32_t kStringType = 1; // the registry's own number
 
-bool HoldsDocuments(const QString& folder) { return QFileInfo(folder, kFirstDocument).isFile(); }
+bool HoldsDocuments(const QString& folder)
+{
+    return QFileInfo(folder, kFirstDocument).isFile();
+}
 
 // Installed beside the program's folder; built, in a folder above it.
 QStringList DocumentFolders()

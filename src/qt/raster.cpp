@@ -93,8 +93,7 @@ void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel)
     }
 }
 
-void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness,
-              Pixel pixel)
+void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness, Pixel pixel)
 {
     const auto [left, right] = std::minmax(from.x, to.x);
     const auto [top, bottom] = std::minmax(from.y, to.y);

@@ -61,8 +61,8 @@ void FillSector(const Canvas& canvas, DevicePoint centre, double radius, Wedge w
 // thickness apart leave no hole between them. An arc is that part of it.
 void DrawRing(const Canvas& canvas, DevicePoint centre, double radius, double thickness,
               Pixel pixel);
-void DrawArc(const Canvas& canvas, DevicePoint centre, double radius, double thickness,
-             Wedge wedge, Pixel pixel);
+void DrawArc(const Canvas& canvas, DevicePoint centre, double radius, double thickness, Wedge wedge,
+             Pixel pixel);
 
 // Coverages of 0 to 255, row upon row.
 struct Mask

@@ -47,8 +47,14 @@ struct Side
     }
 };
 
-Side AfterStart(const Wedge& wedge) { return {-std::sin(wedge.start), std::cos(wedge.start)}; }
-Side BeforeEnd(const Wedge& wedge) { return {std::sin(wedge.end), -std::cos(wedge.end)}; }
+Side AfterStart(const Wedge& wedge)
+{
+    return {-std::sin(wedge.start), std::cos(wedge.start)};
+}
+Side BeforeEnd(const Wedge& wedge)
+{
+    return {std::sin(wedge.end), -std::cos(wedge.end)};
+}
 
 // Above 0, up to a full turn; 0 only where both angles are the same number.
 double Span(const Wedge& wedge)
@@ -184,8 +190,8 @@ void DrawRing(const Canvas& canvas, DevicePoint centre, double radius, double th
                [&](int row, Run run) { FillRun(canvas.Row(row), run, pixel); });
 }
 
-void DrawArc(const Canvas& canvas, DevicePoint centre, double radius, double thickness,
-             Wedge wedge, Pixel pixel)
+void DrawArc(const Canvas& canvas, DevicePoint centre, double radius, double thickness, Wedge wedge,
+             Pixel pixel)
 {
     const bool wide = Span(wedge) > std::numbers::pi;
     const Side afterStart = AfterStart(wedge);

@@ -17,7 +17,10 @@ inline int WholeBelow(double coordinate)
     return towardsZero - (towardsZero > bounded ? 1 : 0);
 }
 
-inline int NearestWhole(double coordinate) { return WholeBelow(coordinate + 0.5); }
+inline int NearestWhole(double coordinate)
+{
+    return WholeBelow(coordinate + 0.5);
+}
 
 // Pixels from `first` up to, not including, `end`.
 struct Run

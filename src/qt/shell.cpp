@@ -9,9 +9,13 @@
 namespace selvane {
 
 Shell::Shell(Platform& platform)
-    : picSelvane_(kPicSelvane), picDemo_(kPicDemo),
-      sim_(picSelvane_, picDemo_, platform, TheWiring()), door_(sim_),
-      window_(door_, {picSelvane_, picDemo_}), timers_(door_), keeper_(door_, window_)
+    : picSelvane_(kPicSelvane),
+      picDemo_(kPicDemo),
+      sim_(picSelvane_, picDemo_, platform, TheWiring()),
+      door_(sim_),
+      window_(door_, {picSelvane_, picDemo_}),
+      timers_(door_),
+      keeper_(door_, window_)
 {
     connect(&door_, &Dispatch::settled, this, &Shell::Match);
     connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
@@ -39,8 +43,7 @@ void Shell::Match(Dispatch::After after)
 bool Shell::eventFilter(QObject* watched, QEvent* event)
 {
     const bool handled = QObject::eventFilter(watched, event);
-    if (event->type() == QEvent::Expose)
-        timers_.SetWatched(window_.windowHandle()->isExposed());
+    if (event->type() == QEvent::Expose) timers_.SetWatched(window_.windowHandle()->isExposed());
     return handled;
 }
 

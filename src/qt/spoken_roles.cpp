@@ -14,8 +14,7 @@ class SpokenLink : public QAccessibleWidget
 public:
     explicit SpokenLink(LinkLabel& link)
         : QAccessibleWidget(&link, QAccessible::Link, link.text()), link_(link)
-    {
-    }
+    {}
 
     QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
 
@@ -41,6 +40,9 @@ QAccessibleInterface* Speak(const QString&, QObject* object)
 
 } // namespace
 
-void TeachSpokenRoles() { QAccessible::installFactory(Speak); }
+void TeachSpokenRoles()
+{
+    QAccessible::installFactory(Speak);
+}
 
 } // namespace selvane

@@ -45,6 +45,9 @@ void Timers::StandStill()
     Match(door_.Sim().controls.timers);
 }
 
-bool Timers::MayRun(TimerId timer) const { return !still_ && (watched_ || timer == tmrTime); }
+bool Timers::MayRun(TimerId timer) const
+{
+    return !still_ && (watched_ || timer == tmrTime);
+}
 
 } // namespace selvane

@@ -5,7 +5,6 @@
 #include "app/controls.h"
 
 #include <QTimer>
-
 #include <array>
 
 namespace selvane {

@@ -4,7 +4,6 @@
 
 #include <QKeyEvent>
 #include <QWheelEvent>
-
 #include <cmath>
 
 namespace selvane {
