@@ -24,13 +24,13 @@ void DrawRing(Simulation& sim, RememberedRing& remembered, double inclination, d
     state.PosLon = Radians(state, state.Incl);
     state.PosRadius = state.PlanetPx;
     LoadNegativeView(sim);
-    const Ring& ring = remembered(
-        {state.PosRadius, {state.PosLon, state.PosRoll, state.ViewRad}},
-        [](const RingPlace& at) { return MakeRing(WholeDegrees(), at.radius, at.turn); });
-    PlotNearHalf(sim, ring);
+    const Ring& ring =
+        remembered({state.PosRadius, {state.PosLon, state.PosRoll, state.ViewRad}},
+                   [](const RingPlace& at, Ring& made) { MakeRing(WholeDegrees(), at, made); });
+    PlotNearHalf(sim.picSelvane, ring, state.PlanetX, state.PlanetY);
     state.PosLat = WholeDegrees().back().radians;
     state.SatDeg = kRingPoints;
-    StoreProjected(state, ring.back());
+    StoreProjected(state, ring.last);
 }
 
 // The equator and two meridians a quarter turn apart.

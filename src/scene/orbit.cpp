@@ -105,9 +105,8 @@ void ReadOrientation(Simulation& sim)
     state.ARGP = Number(sim, txtARGP) + 90;
 }
 
-OrbitPath MakePath(const OrbitPlace& place)
+void MakePath(const OrbitPlace& place, OrbitPath& path)
 {
-    OrbitPath path{};
     const Projection project(place.turn);
     for (std::size_t at = 0; at < path.size(); ++at) {
         const InPlaneAngle& angle = WholeDegrees()[at];
@@ -115,7 +114,6 @@ OrbitPath MakePath(const OrbitPlace& place)
             RadiusAt(place.semiMajor, place.eccentricity, angle.radians - place.farthest);
         path[at].point = project(path[at].radius, angle.cosine, angle.sine);
     }
-    return path;
 }
 
 const OrbitPath& Follow(const SimState& state, RememberedPath& remembered)
@@ -152,17 +150,26 @@ bool ReferToTheSun(SimState& state)
     return true;
 }
 
-// The shadow is a cylinder of the planet's radius behind the planet.
+// The satellite's rate at that distance, display units.
+void SetRate(SimState& state, double radius)
+{
+    const double rate = AngularRate(state.PlanetMu, radius / state.KmScale, state.SMajAxis);
+    state.AngRate = rate * 180 / state.Pi;
+    state.SecPerDeg = 1 / state.AngRate;
+}
+
+// The shadow is a cylinder of the planet's radius behind the planet. The rate stays as at the last
+// sample.
 void SumEclipse(SimState& state, const OrbitPath& path)
 {
     state.EclipseSec = 0;
     for (const auto& [radius, point] : path) {
-        const double rate = AngularRate(state.PlanetMu, radius / state.KmScale, state.SMajAxis);
-        state.AngRate = rate * 180 / state.Pi;
-        state.SecPerDeg = 1 / state.AngRate;
-        if (point.x > 0 && point.y * point.y + point.z * point.z < state.PlanetPx * state.PlanetPx)
-            state.EclipseSec += state.SecPerDeg;
+        if (!(point.x > 0)) continue;
+        if (!(point.y * point.y + point.z * point.z < state.PlanetPx * state.PlanetPx)) continue;
+        SetRate(state, radius);
+        state.EclipseSec += state.SecPerDeg;
     }
+    SetRate(state, path.back().radius);
 }
 
 // What the loops leave behind: the last sample is the projection's present point.

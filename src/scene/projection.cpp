@@ -21,8 +21,26 @@ double TwoBranchAngle(double across, double along)
 } // namespace
 
 Projection::Projection(Turn turn)
-    : turn_(turn), cosY_(std::cos(turn.aboutY)), sinY_(std::sin(turn.aboutY))
+    : turn_(turn),
+      cosY_(std::cos(turn.aboutY)),
+      sinY_(std::sin(turn.aboutY)),
+      cosZ_(std::cos(turn.aboutZ)),
+      sinZ_(std::sin(turn.aboutZ)),
+      cosX_(std::cos(turn.aboutX)),
+      sinX_(std::sin(turn.aboutX)),
+      matricesHold_(std::fabs(turn.aboutZ) < 1e6 && std::fabs(turn.aboutX) < 1e6)
 {}
+
+bool Projection::IsSurelyBehind(double radius, double cosInPlane, double sinInPlane) const
+{
+    const double margin = 1e-6 * radius;
+    const double x1 = radius * cosInPlane * cosY_;
+    const double y1 = radius * sinInPlane;
+    const double z1 = radius * cosInPlane * sinY_;
+    const double y2 = x1 * sinZ_ + y1 * cosZ_;
+    const double z = y2 * sinX_ + z1 * cosX_;
+    return matricesHold_ && z < -margin && std::fabs(x1) > margin && std::fabs(y2) > margin;
+}
 
 Projected Projection::operator()(double radius, double inPlane) const
 {

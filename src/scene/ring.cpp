@@ -1,5 +1,7 @@
 #include "scene/ring.h"
 
+#include "app/drawing_surface.h"
+
 #include <cmath>
 #include <cstddef>
 
@@ -41,13 +43,22 @@ const InPlaneAngles& RunningSum()
     return angles;
 }
 
-Ring MakeRing(const InPlaneAngles& angles, double radius, Turn turn)
+void MakeRing(const InPlaneAngles& angles, const RingPlace& place, Ring& ring)
 {
-    const Projection project(turn);
-    Ring ring;
-    for (std::size_t at = 0; at < ring.size(); ++at)
-        ring[at] = project(radius, angles[at].cosine, angles[at].sine);
-    return ring;
+    const Projection project(place.turn);
+    ring.count = 0;
+    for (const InPlaneAngle& angle : angles) {
+        if (project.IsSurelyBehind(place.radius, angle.cosine, angle.sine)) continue;
+        const Projected point = project(place.radius, angle.cosine, angle.sine);
+        if (point.z > 0) ring.dots[ring.count++] = {point.x, point.y};
+    }
+    ring.last = project(place.radius, angles.back().cosine, angles.back().sine);
+}
+
+void PlotNearHalf(DrawingSurface& picture, const Ring& ring, double centreX, double centreY)
+{
+    for (std::size_t at = 0; at < ring.count; ++at)
+        picture.PSet(ring.dots[at].x + centreX, ring.dots[at].y + centreY);
 }
 
 } // namespace selvane

@@ -42,9 +42,9 @@ void DrawRing(Simulation& sim, RememberedRing& remembered, double inclination, d
     state.GlobePosRoll = roll;
     const Ring& ring =
         remembered({state.PosRadius, {state.GlobePosLon, state.GlobePosRoll, state.GlobeViewRad}},
-                   [](const RingPlace& at) { return MakeRing(RunningSum(), at.radius, at.turn); });
-    PlotNearHalf(sim, ring);
-    StoreProjected(state, ring.back());
+                   [](const RingPlace& at, Ring& made) { MakeRing(RunningSum(), at, made); });
+    PlotNearHalf(sim.picSelvane, ring, state.PlanetX, state.PlanetY);
+    StoreProjected(state, ring.last);
 }
 
 void Equator(Simulation& sim)

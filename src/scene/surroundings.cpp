@@ -91,13 +91,6 @@ void MarkersBehind(Simulation& sim, double northAxisDeg, double viewFactor)
     if (IsFrontView(viewDeg)) SouthMarker(sim, viewFactor);
 }
 
-void PlotNearHalf(Simulation& sim, const Ring& ring)
-{
-    const SimState& state = sim.state;
-    for (const Projected& point : ring)
-        if (point.z > 0) sim.picSelvane.PSet(point.x + state.PlanetX, point.y + state.PlanetY);
-}
-
 void MarkersInFront(Simulation& sim)
 {
     const double viewDeg = sim.state.ViewDeg;

@@ -1,8 +1,6 @@
 // What both globes have round them: reference lines, Sun, sunlight and pole markers.
 #pragma once
 
-#include "scene/ring.h"
-
 namespace selvane {
 
 class DrawingSurface;
@@ -29,8 +27,5 @@ void SouthMarker(Simulation& sim, double viewFactor);
 // outside a full turn none.
 void MarkersBehind(Simulation& sim, double northAxisDeg, double viewFactor);
 void MarkersInFront(Simulation& sim);
-
-// The dots of a ring round the planet that lie on the near half of the globe.
-void PlotNearHalf(Simulation& sim, const Ring& ring);
 
 } // namespace selvane

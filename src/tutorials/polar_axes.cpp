@@ -30,13 +30,12 @@ void DottedDiameter(Simulation& sim)
     state.SurfPosLon = Radians(state, state.SurfLonDeg);
     state.SurfRollDeg = state.SurfPosRoll = 0;
     state.PosRadius = state.PlanetPx;
-    const Ring ring =
-        MakeRing(WholeDegrees(), state.PosRadius, {state.SurfPosLon, state.SurfPosRoll, 0});
-    for (const Projected& point : ring)
-        if (point.z > 0) sim.picDemo.PSet(point.x + state.PlanetX, point.y + state.PlanetY);
+    Ring ring;
+    MakeRing(WholeDegrees(), {state.PosRadius, {state.SurfPosLon, state.SurfPosRoll, 0}}, ring);
+    PlotNearHalf(sim.picDemo, ring, state.PlanetX, state.PlanetY);
     state.DemoLatDeg = kRingPoints;
     state.DemoPosLat = WholeDegrees().back().radians;
-    StoreProjected(state, ring.back());
+    StoreProjected(state, ring.last);
 }
 
 void Axes(DrawingSurface& picture, double radius)

@@ -73,12 +73,12 @@ void EarthHalf(Simulation& sim, double x, double y, Colour outline, double angle
 void EarthNearCircle(Simulation& sim, double x, double y)
 {
     SimState& state = sim.state;
-    const Ring ring = MakeRing(RunningSum(), state.PosRadius,
-                               {state.DemoPosLon, state.DemoPosRoll, state.DemoViewRad});
-    for (const Projected& point : ring)
-        if (point.z > 0) sim.picDemo.PSet(x + point.x, y + point.y);
+    const Turn turn{state.DemoPosLon, state.DemoPosRoll, state.DemoViewRad};
+    Ring ring;
+    MakeRing(RunningSum(), {state.PosRadius, turn}, ring);
+    PlotNearHalf(sim.picDemo, ring, x, y);
     state.DemoPosLat = RunningSum().back().radians + state.Pi / 180; // one step past the end
-    StoreProjected(state, ring.back());
+    StoreProjected(state, ring.last);
 }
 
 void EarthEquator(Simulation& sim, double x, double y)
