@@ -150,8 +150,9 @@ TEST(NumberText, PatternsAgreeWithTheLibraryAwayFromTies)
         const double number = mantissa(random) * std::pow(10, exponent(random));
         if (std::fabs(std::remainder(number * 1e4, 5)) < 1e-3) continue; // as good as a tie
         char text[64];
-        const auto end = std::to_chars(text, text + sizeof text, number, std::chars_format::fixed,
-                                       round % 4).ptr;
+        const auto end =
+            std::to_chars(text, text + sizeof text, number, std::chars_format::fixed, round % 4)
+                .ptr;
         ASSERT_EQ(FixedNumber(number, round % 4), std::string_view(text, end)) << number;
         ASSERT_NEAR(PrefixNumber(PlainNumber(number)), number, std::fabs(number) * 1e-14);
     }

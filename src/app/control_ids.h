@@ -66,6 +66,9 @@ using enum TimerId;
 using enum MenuId;
 
 // An identifier's place in its table.
-template <typename Id> constexpr std::size_t Index(Id id) { return static_cast<std::size_t>(id); }
+template <typename Id> constexpr std::size_t Index(Id id)
+{
+    return static_cast<std::size_t>(id);
+}
 
 } // namespace selvane

@@ -190,12 +190,33 @@ static_assert(std::size(kMenus) == kMenuCount && InOrder(kMenus));
 
 } // namespace
 
-std::span<const ScrollBarRow> ScrollBarTable() { return kScrollBars; }
-std::span<const FieldRow> FieldTable() { return kFields; }
-std::span<const ButtonRow> ButtonTable() { return kButtons; }
-std::span<const LabelRow> LabelTable() { return kLabels; }
-std::span<const TimerRow> TimerTable() { return kTimers; }
-std::span<const MenuRow> MenuTable() { return kMenus; }
-std::span<const FrameRow> FrameTable() { return kFrames; }
+std::span<const ScrollBarRow> ScrollBarTable()
+{
+    return kScrollBars;
+}
+std::span<const FieldRow> FieldTable()
+{
+    return kFields;
+}
+std::span<const ButtonRow> ButtonTable()
+{
+    return kButtons;
+}
+std::span<const LabelRow> LabelTable()
+{
+    return kLabels;
+}
+std::span<const TimerRow> TimerTable()
+{
+    return kTimers;
+}
+std::span<const MenuRow> MenuTable()
+{
+    return kMenus;
+}
+std::span<const FrameRow> FrameTable()
+{
+    return kFrames;
+}
 
 } // namespace selvane

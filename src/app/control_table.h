@@ -13,7 +13,10 @@
 
 namespace selvane {
 
-struct Place { int left, top, width, height; };
+struct Place
+{
+    int left, top, width, height;
+};
 
 enum class Alignment { Left, Centre, Right };
 enum class Direction { Horizontal, Vertical };
