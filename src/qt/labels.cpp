@@ -17,7 +17,7 @@ Qt::Alignment AlignmentOf(Alignment alignment)
     case Alignment::Left:
         break;
     case Alignment::Centre:
-        return Qt::AlignHCenter | Qt::AlignTop;
+        return Qt::AlignHCenter | Qt::AlignBottom;
     case Alignment::Right:
         return Qt::AlignRight | Qt::AlignTop;
     }
