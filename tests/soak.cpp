@@ -48,7 +48,7 @@ void EnterNext(Bench& bench, long turn)
 
 void TickAll(Bench& bench, long tick)
 {
-    if (tick % 250 == 0) bench.platform.now = kMoments[tick / 250 % std::size(kMoments)];
+    if (tick % 250 == 0) bench.platform.now = kMoments[tick / 250 % std::ssize(kMoments)];
     for (const TimerId timer : {tmrSat, tmrES2, tmrSunSynch})
         if (bench.On(timer)) Tick(bench.sim, timer);
     if (tick % 4 == 0) Tick(bench.sim, tmrTime);
