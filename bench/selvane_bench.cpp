@@ -7,12 +7,20 @@
 #include "scene/orbit.h"
 #include "scene/projection.h"
 #include "scene/rotating_globe.h"
+#include "tutorials/celestial_sphere.h"
+#include "tutorials/clock.h"
+#include "tutorials/polar_axes.h"
+#include "tutorials/solar_days.h"
+#include "tutorials/spherical_coordinates.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <benchmark/benchmark.h>
+#include <chrono>
 #include <cstdio>
 #include <map>
 #include <string>
+#include <vector>
 
 namespace selvane {
 
@@ -88,12 +96,70 @@ void MatchAfterTick(benchmark::State& state)
     for (auto turn : state) shell.Door().Tick(tmrSat);
 }
 
+// A tutorial's scene on its picture, and the clearing of that picture alone.
+constexpr struct
+{
+    const char* name;
+    Procedure draw;
+} kTutorialScenes[] = {
+    {"celestial sphere", Demo0}, {"polar axes", Demo1},    {"spherical coordinates", Demo2},
+    {"solar days", Demo31},      {"clock", tmrTime_Timer},
+};
+
+void TutorialClear(benchmark::State& state)
+{
+    Scene scene(1);
+    for (auto turn : state) {
+        scene.picDemo.Cls();
+        benchmark::ClobberMemory();
+    }
+}
+
+void TutorialScene(benchmark::State& state)
+{
+    Scene scene(1);
+    const auto& tutorial = kTutorialScenes[state.range(0)];
+    state.SetLabel(tutorial.name);
+    for (auto turn : state) tutorial.draw(scene.sim);
+}
+
+// A move of a bar until the picture is on the screen, with the time that one in a hundred exceeds.
+constexpr MenuId kDemos[] = {mnGeo, mnMoly, mnES2, mnSunSynch};
+
+void BarToPicture(benchmark::State& state)
+{
+    using Clock = std::chrono::steady_clock;
+    QtPlatform platform;
+    Shell shell(platform);
+    shell.Show();
+    shell.Clockwork().StandStill();
+    if (state.range(0) > 0)
+        shell.Door().Act(WindowId::Main,
+                         [&](Simulation& sim) { Choose(sim, kDemos[state.range(0) - 1]); });
+    std::vector<double> milliseconds;
+    int value = 0;
+    for (auto turn : state) {
+        const auto start = Clock::now();
+        shell.Door().Act(WindowId::Main,
+                         [&](Simulation& sim) { Scroll(sim, sclIncl, ++value % 90); });
+        QApplication::processEvents();
+        milliseconds.push_back(
+            std::chrono::duration<double, std::milli>(Clock::now() - start).count());
+    }
+    const auto late = milliseconds.begin() + std::ssize(milliseconds) * 99 / 100;
+    std::nth_element(milliseconds.begin(), late, milliseconds.end());
+    state.counters["p99_ms"] = *late;
+}
+
 BENCHMARK(Clear)->ArgName("scale")->Arg(100)->Arg(150)->Arg(200);
 BENCHMARK(Frame)->ArgName("scale")->Arg(100)->Arg(150)->Arg(200);
 BENCHMARK(Step)->ArgName("scale")->Arg(100)->Arg(200);
 BENCHMARK(ProjectOrbit);
 BENCHMARK(MatchUnchanged);
 BENCHMARK(MatchAfterTick);
+BENCHMARK(TutorialClear);
+BENCHMARK(TutorialScene)->ArgName("scene")->DenseRange(0, 4);
+BENCHMARK(BarToPicture)->ArgName("scenario")->DenseRange(0, 4);
 
 // Prints as usual and remembers the fastest time of each.
 class Reporter : public benchmark::ConsoleReporter
