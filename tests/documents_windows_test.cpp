@@ -75,52 +75,6 @@ const std::string kUnavailable = "Selvane: System Information Is Unavailable At 
 
 } // namespace
 
-TEST(UserGuide, EachTopicLoadsItsDocument)
-{
-    const std::map<std::string, std::string> expected = {
-        {"Introduction", "Introduction.rtf"},       {"Terminolgy", "Terminology.rtf"},
-        {"Main Display", "MainDisplay.rtf"},        {"Orbital Energies", "Energy.rtf"},
-        {"Orbit Shape", "OrbitShape.rtf"},          {"Orbit Position", "OrbitPosition.rtf"},
-        {"Orbit Parameters", "OrbitParameters.rtf"}};
-    Bench desk;
-    mnUserGuide_Click(desk.sim);
-    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Introduction.rtf");
-    ASSERT_EQ(TopicTable().size(), expected.size());
-    for (const TopicRow& row : TopicTable()) {
-        frmUserGuide::Topic_Click(desk.sim, row.topic);
-        EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document,
-                  expected.at(std::string(row.caption)));
-        EXPECT_EQ(row.name.substr(0, 3), "lbl");
-    }
-}
-
-TEST(UserGuide, AReturnGoesBackToTheIntroductionButAClickInTheMenuDoesNot)
-{
-    Bench desk;
-    mnUserGuide_Click(desk.sim);
-    frmUserGuide::Topic_Click(desk.sim, Topic::lblEnergy);
-    mnUserGuide_Click(desk.sim); // active already
-    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Energy.rtf");
-    ActivateWindow(desk.sim, WindowId::Main);
-    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Energy.rtf");
-    ActivateWindow(desk.sim, WindowId::UserGuide);
-    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Introduction.rtf");
-    desk.platform.missing = {"Terminology.rtf"};
-    const unsigned loads = desk.sim.windows.frmUserGuide.txtHelp.loads;
-    frmUserGuide::Topic_Click(desk.sim, Topic::lblTerminology);
-    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.document, "Introduction.rtf")
-        << "a missing document leaves the pane";
-    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.loads, loads);
-}
-
-TEST(UserGuide, ThePaneFollowsTheOuterSizeAndStopsAtNothing)
-{
-    EXPECT_EQ(PaneSizeFor(433, 704), (PaneSize{400, 600}));
-    EXPECT_EQ(PaneSizeFor(443, 704), (PaneSize{410, 600}));
-    EXPECT_EQ(PaneSizeFor(33, 104), (PaneSize{0, 0}));
-    EXPECT_EQ(PaneSizeFor(0, 105), (PaneSize{0, 1}));
-}
-
 TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
 {
     Bench desk;
@@ -133,17 +87,6 @@ TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
     frmAbout::cmdOK_Click(desk.sim);
     EXPECT_FALSE(IsLoaded(desk.sim, WindowId::About));
     EXPECT_EQ(box.caption, "");
-}
-
-TEST(AboutBox, EachLinkOpensOnce)
-{
-    Bench desk;
-    mnAbout_Click(desk.sim);
-    frmAbout::LblWebsite_Click(desk.sim);
-    frmAbout::Label1_Click(desk.sim);
-    EXPECT_EQ(desk.platform.opened,
-              (Strings{"https://selvane.example.org", "mailto:contact@selvane.example.org"}));
-    EXPECT_TRUE(IsActive(desk.sim, WindowId::About));
 }
 
 TEST(SystemInformation, TheFirstValueIsTakenAtItsWord)

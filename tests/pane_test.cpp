@@ -233,27 +233,6 @@ TEST(Pane, TablesStandInAGridAndBrokenPicturesInAFrame)
     EXPECT_LE(shown, pane.widget.viewport()->width()) << "a wide picture is held to the pane";
 }
 
-TEST(UserGuideFrame, TopicsAreLinksForMouseAndKeys)
-{
-    Opened<UserGuideFrame> guide(mnUserGuide);
-    auto* pane = guide.frame.findChild<HelpPaneWidget*>("txtHelp");
-    EXPECT_EQ(pane->toPlainText(), "Introduction.rtf");
-    for (const TopicRow& row : TopicTable()) {
-        for (const auto key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_unknown}) {
-            guide.Click("lblIntroduction");
-            if (key == Qt::Key_unknown)
-                guide.Click(row.name);
-            else
-                guide.Press(row.name, key);
-            EXPECT_EQ(pane->toPlainText().toStdString(), row.document);
-        }
-    }
-    emit pane->documentLinkClicked("Molniya.rtf");
-    EXPECT_EQ(pane->toPlainText(), "Molniya.rtf");
-    emit pane->webLinkClicked("https://a.example.org");
-    EXPECT_EQ(guide.bench.platform.opened.back(), "https://a.example.org");
-}
-
 TEST(UserGuideFrame, ThePaneFollowsTheWindowAndNothingElseMoves)
 {
     Opened<UserGuideFrame> guide(mnUserGuide);
@@ -287,14 +266,3 @@ TEST(AboutFrame, ControlsAnswerToMouseAndKeys)
     EXPECT_EQ(about.frame.minimumSize(), about.frame.maximumSize());
 }
 
-TEST(AboutFrame, OkEnterAndEscapeUnloadIt)
-{
-    for (const auto key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_unknown}) {
-        Opened<AboutFrame> about(mnAbout);
-        if (key == Qt::Key_unknown)
-            about.Click("cmdOK");
-        else
-            QTest::keyClick(about.frame.focusWidget(), key);
-        EXPECT_FALSE(IsLoaded(about.bench.sim, WindowId::About)) << key;
-    }
-}

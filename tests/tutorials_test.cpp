@@ -319,107 +319,6 @@ TEST(Clock, TickDrawsTheWholeDial)
     EXPECT_EQ(drawn.back().colour, kWhite);
 }
 
-TEST(Navigator, WalksTheStepsAndShowsWhatBelongsToThem)
-{
-    using enum SceneKey;
-    enum Beside { Bare, View, Days, Hours }; // Hours: with the clock running
-    struct { std::string_view actions; SceneKey key; Beside beside; int file; } const rows[] = {
-        {"", Demo0, View, 20},      {"B", Demo0, View, 20},        {"N", Demo1, Bare, 21},
-        {"NN", Demo2, View, 22},    {"NNN", Demo3, View, 23},      {"NNNN", Demo3, View, 23},
-        {"NNNB", Demo2, View, 22},  {"NNNNBBBB", Demo0, View, 20}, {"R", Demo0, Bare, 20},
-        {"NNR", Demo2, Bare, 22},   {"NNRR", Demo0, View, 20},     {"NNRRB", Demo1, Bare, 21},
-        {"NNRRN", Demo3, View, 23}, {"NNNRRN", Demo3, View, 23},   {"RNB", Demo0, Bare, 20},
-        {"T", Demo31, Days, 31},    {"TB", Demo31, Days, 31},      {"TN", Demo32, Hours, 32},
-        {"TNN", Demo32, Hours, 32}, {"TNB", Demo31, Days, 31},     {"TT", Demo31, Bare, 31},
-        {"TNT", Demo32, Bare, 31},  {"TNTT", Demo31, Days, 31},    {"TNTTN", Demo32, Hours, 32},
-        {"NTN", Demo32, Hours, 32}, {"TNR", Demo0, View, 20},      {"TNRN", Demo1, Bare, 21},
-        {"TRR", Demo0, Bare, 20},   {"TNBR", Demo0, View, 20}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.actions);
-        Bench bench;
-        Walk(bench, row.actions);
-        const bool view = row.beside == View, range = row.beside == Days || row.beside == Hours;
-        const bool hours = row.beside == Hours;
-        EXPECT_EQ(bench.sim.state.CurrentDemo, row.key);
-        for (const bool shown :
-             {bench.Shown(sclViewD), bench.Shown(txtViewD), bench.Shown(lblViewD)})
-            EXPECT_EQ(shown, view);
-        for (const bool shown :
-             {bench.Shown(sclRange), bench.Shown(txtRange), bench.Shown(lblRange)})
-            EXPECT_EQ(shown, range);
-        EXPECT_EQ(bench.On(tmrTime), hours);
-        EXPECT_EQ(bench.sim.state.HelpFile, "Help(" + std::to_string(row.file) + ").rtf");
-        EXPECT_FALSE(IsChecked(bench.sim, mnSatelliteTracking) &&
-                     IsChecked(bench.sim, mnTimeStandards));
-        if (!range) continue;
-        const ScrollBar& bar = bench.sim.controls.scrollBars[Index(sclRange)];
-        EXPECT_EQ(bench.Caption(lblRange), hours ? "GMT Offset" : "Solar Days");
-        EXPECT_EQ((std::array{bar.min, bar.max, bar.value, bar.largeChange}),
-                  hours ? (std::array{-24, 24, -4, 1}) : (std::array{0, 365, 60, 5}));
-        EXPECT_EQ(hours ? bench.sim.state.GmtOffset : bench.sim.state.SolarDays, bar.value);
-    }
-}
-
-TEST(Navigator, WithoutATutorialNextAndBackOnlyClearThePicture)
-{
-    Bench bench;
-    Walk(bench, "NTNtT"); // closed on the clock, whose last picture stays until then
-    EXPECT_FALSE(bench.picDemo.strokes.empty());
-    bench.picDemo.Forget();
-    Walk(bench, "NB");
-    EXPECT_EQ(bench.picDemo.Count(StrokeKind::Cls), 2);
-    EXPECT_TRUE(bench.picDemo.strokes.empty());
-    EXPECT_EQ(bench.sim.state.HelpStep1, 21);
-    EXPECT_EQ(bench.sim.state.HelpStep2, 32);
-}
-
-TEST(Navigator, AMissingDocumentLeavesThePaneButNotTheScene)
-{
-    Bench bench;
-    bench.platform.missing = {"Help(22).rtf", "Help(31).rtf"};
-    Walk(bench, "NN");
-    EXPECT_EQ(bench.sim.state.HelpFile, "Help(22).rtf");
-    EXPECT_EQ(bench.picDemo.Of(kText).size(), 7u);
-    Walk(bench, "T");
-    EXPECT_EQ(bench.sim.state.HelpFile, "Help(31).rtf");
-    EXPECT_EQ(Value(bench.sim, sclRange), 60);
-    EXPECT_EQ(bench.sim.controls.txtHelp.document, "Help(21).rtf");
-}
-
-TEST(Navigator, ADemoKeepsRunningUnderTheTutorials)
-{
-    Bench bench;
-    Choose(bench.sim, mnES2);
-    Walk(bench, "NN");
-    EXPECT_EQ(bench.sim.state.OrbitMode, Scenario::ES2);
-    EXPECT_TRUE(bench.On(tmrES2));
-    Choose(bench.sim, mnGeo);
-    EXPECT_EQ(bench.sim.controls.txtHelp.document, "GeoOrbit.rtf");
-    bench.picSelvane.Forget();
-    EXPECT_EQ(ClickLabel(bench.sim, lblReturnToTutorial), std::nullopt);
-    EXPECT_EQ(bench.sim.controls.txtHelp.document, "Help(22).rtf");
-    EXPECT_FALSE(bench.Shown(lblReturnToTutorial));
-    EXPECT_TRUE(IsChecked(bench.sim, mnGeo));
-    EXPECT_EQ(bench.picSelvane.Count(StrokeKind::Cls), 0);
-}
-
-TEST(Navigator, ViewAngleIsKeptToAQuarterTurn)
-{
-    struct { int moved, kept, draws; } const moves[] = {
-        {90, 90, 1}, {60, 60, 1}, {720, 90, 2}, {5, 5, 1}, {-1, 0, 2}, {1, 1, 1}, {0, 0, 1}};
-    for (const std::string_view step : {"", "NN", "NNN"}) {
-        Bench bench;
-        Walk(bench, step);
-        for (const auto& move : moves) {
-            bench.picDemo.Forget();
-            Scroll(bench.sim, sclViewD, move.moved);
-            EXPECT_EQ(Value(bench.sim, sclViewD), move.kept);
-            EXPECT_EQ(Text(bench.sim, txtViewD), std::to_string(move.kept));
-            EXPECT_EQ(bench.picDemo.Count(StrokeKind::Cls), 2 * move.draws); // handler, then scene
-        }
-    }
-}
-
 TEST(Navigator, TypedViewAnglesAreUsedAsTheyAre)
 {
     Bench bench;
@@ -434,20 +333,6 @@ TEST(Navigator, TypedViewAnglesAreUsedAsTheyAre)
     for (const char* text : {"1e308", "-1e308", "1.7976931348623157e308", "-450"})
         for (const Stroke& stroke : drawnWith(text)) // nothing leaves the picture's neighbourhood
             ASSERT_LT(std::hypot(stroke.x1, stroke.y1), 190) << text;
-}
-
-TEST(Navigator, RangeSettingsRedrawOnlyWhatTheyMove)
-{
-    Bench bench;
-    bench.picDemo.Forget();
-    Walk(bench, "T"); // the old text, the clamp to 0, the value 60
-    EXPECT_EQ(bench.picDemo.texts,
-              (std::vector<std::string>{DaysText(-4), DaysText(0), DaysText(60)}));
-    Type(bench.sim, txtRange, "100");
-    Walk(bench, "B"); // the bar stands at 60 already: the picture keeps the text it was drawn with
-    EXPECT_EQ(bench.picDemo.strokes.back().text, DaysText(100));
-    EXPECT_NEAR(bench.picDemo.Of(kLine)[1].x2, 51.30, kTwoPlaces);
-    EXPECT_EQ(Text(bench.sim, txtRange), "60");
 }
 
 // clang-format on

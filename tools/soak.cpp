@@ -2,7 +2,9 @@
 // clock steps over New Year, leap day and the changes of daylight saving. Fails when memory grows
 // by a MiB after the warm-up, or when the last frame is not the one that a fresh start gives for
 // the same state. The long run is `soak 10000000`.
-#include "bench.h"
+#include "program/program.h"
+#include "replay/recording_surface.h"
+#include "replay/scripted_platform.h"
 #include "scene/redraw.h"
 
 #include <cstdio>
@@ -37,11 +39,26 @@ long ResidentKiB()
     return 0;
 }
 
+// The whole program on pictures and a machine of its own.
+struct Stage
+{
+    replay::ScriptedPlatform platform;
+    replay::RecordingSurface picSelvane{kPicSelvane.place.width, kPicSelvane.place.height};
+    replay::RecordingSurface picDemo{kPicDemo.place.width, kPicDemo.place.height};
+    Simulation sim{picSelvane, picDemo, platform, TheWiring()};
+
+    Stage()
+    {
+        Load(sim);
+        FirstShowing(sim);
+    }
+};
+
 // Turns to the next scenario: a planet and one of the four demonstrations or the default orbit,
 // with the clock's tutorial open beside it.
-void EnterNext(Bench& bench, long turn)
+void EnterNext(Stage& stage, long turn)
 {
-    Simulation& sim = bench.sim;
+    Simulation& sim = stage.sim;
     Choose(sim, kPlanets[turn / 5 % 5]);
     for (const MenuId demo : kDemos)
         if (IsChecked(sim, demo)) Choose(sim, demo);
@@ -50,46 +67,44 @@ void EnterNext(Bench& bench, long turn)
     Click(sim, btnNext2);
 }
 
-void TickAll(Bench& bench, long tick)
+void TickAll(Stage& stage, long tick)
 {
-    if (tick % 250 == 0) bench.platform.now = kMoments[tick / 250 % std::ssize(kMoments)];
+    if (tick % 250 == 0) stage.platform.now = kMoments[tick / 250 % std::ssize(kMoments)];
     for (const TimerId timer : {tmrSat, tmrES2, tmrSunSynch})
-        if (bench.On(timer)) Tick(bench.sim, timer);
-    if (tick % 4 == 0) Tick(bench.sim, tmrTime);
+        if (stage.sim.controls.timers[Index(timer)].enabled) Tick(stage.sim, timer);
+    if (tick % 4 == 0) Tick(stage.sim, tmrTime);
 }
 
-std::vector<Stroke> FrameOf(Bench& bench)
+std::uint32_t FrameOf(Stage& stage)
 {
-    bench.picSelvane.keeping = true;
-    RedrawScene(bench.sim);
-    return bench.picSelvane.strokes;
+    RedrawScene(stage.sim);
+    return stage.picSelvane.Digest();
 }
 
-bool LastFrameIsThatOfAFreshStart(Bench& bench)
+bool LastFrameIsThatOfAFreshStart(Stage& stage)
 {
-    Bench fresh;
-    fresh.sim.state = bench.sim.state;
+    Stage fresh;
+    fresh.sim.state = stage.sim.state;
     fresh.sim.state.CurPic = &fresh.picSelvane;
-    fresh.sim.controls = bench.sim.controls;
-    fresh.picSelvane.ScaleLeft = bench.picSelvane.ScaleLeft;
-    fresh.picSelvane.ScaleTop = bench.picSelvane.ScaleTop;
-    fresh.picSelvane.ScaleWidth = bench.picSelvane.ScaleWidth;
-    fresh.picSelvane.ScaleHeight = bench.picSelvane.ScaleHeight;
-    return FrameOf(bench) == FrameOf(fresh);
+    fresh.sim.controls = stage.sim.controls;
+    fresh.picSelvane.ScaleLeft = stage.picSelvane.ScaleLeft;
+    fresh.picSelvane.ScaleTop = stage.picSelvane.ScaleTop;
+    fresh.picSelvane.ScaleWidth = stage.picSelvane.ScaleWidth;
+    fresh.picSelvane.ScaleHeight = stage.picSelvane.ScaleHeight;
+    return FrameOf(stage) == FrameOf(fresh);
 }
 
 int Soak(long ticks)
 {
-    Bench bench;
-    bench.picSelvane.keeping = bench.picDemo.keeping = false;
+    Stage stage;
     long warm = 0;
     for (long tick = 0; tick < ticks; ++tick) {
-        if (tick % kTicksPerScenario == 0) EnterNext(bench, tick / kTicksPerScenario);
-        TickAll(bench, tick);
+        if (tick % kTicksPerScenario == 0) EnterNext(stage, tick / kTicksPerScenario);
+        TickAll(stage, tick);
         if (tick == ticks / 10) warm = ResidentKiB();
     }
     const long growth = ResidentKiB() - warm;
-    const bool same = LastFrameIsThatOfAFreshStart(bench);
+    const bool same = LastFrameIsThatOfAFreshStart(stage);
     std::printf("%ld ticks: memory grew by %ld KiB, the last frame is %s\n", ticks, growth,
                 same ? "that of a fresh start" : "NOT that of a fresh start");
     return growth < kMostGrowthKiB && same ? EXIT_SUCCESS : EXIT_FAILURE;
