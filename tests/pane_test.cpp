@@ -265,4 +265,3 @@ TEST(AboutFrame, ControlsAnswerToMouseAndKeys)
     EXPECT_TRUE(IsLoaded(about.bench.sim, WindowId::About));
     EXPECT_EQ(about.frame.minimumSize(), about.frame.maximumSize());
 }
-
