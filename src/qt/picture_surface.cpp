@@ -5,12 +5,42 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
-#include <bit>
+#include <array>
 #include <cmath>
-#include <functional>
+#include <string>
 #include <utility>
 
 namespace selvane {
+
+namespace {
+
+// Two strokes with the same numbers leave the same pixels; the first number is the kind.
+template <typename... Numbers> auto Stroke(char kind, Numbers... numbers)
+{
+    return std::array{static_cast<double>(kind), static_cast<double>(numbers)...};
+}
+
+template <std::size_t N> std::string_view BytesOf(const std::array<double, N>& stroke)
+{
+    return {reinterpret_cast<const char*>(stroke.data()), sizeof stroke};
+}
+
+Box Whole(const Canvas& canvas)
+{
+    return {{0, canvas.width}, {0, canvas.height}};
+}
+
+// All that a stroke from one place to the other touches, which reaches so far beyond them.
+Box Between(DevicePoint from, DevicePoint to, double reach)
+{
+    const auto run = [reach](double one, double other) {
+        const auto [low, high] = std::minmax(one, other);
+        return Run{WholeBelow(low - reach), WholeBelow(high + reach) + 1};
+    };
+    return {run(from.x, to.x), run(from.y, to.y)};
+}
+
+} // namespace
 
 PictureSurface::PictureSurface(const PictureRow& row)
     : DrawingSurface(row.place.width, row.place.height), background_(PixelOf(row.background))
@@ -37,12 +67,13 @@ void PictureSurface::SetDeviceScale(double scale)
     height_ = height;
     scale_ = scale;
     masks_.clear();
-    shown_ = {~frame_.digest, 0, 0, 0, 0, false}; // all of it is new
-    drawn_ = true;
+    log_.Forget();
+    changed_ = Whole(Target());
 }
 
-QImage PictureSurface::Image() const
+QImage PictureSurface::Image()
 {
+    Settle();
     QImage image(reinterpret_cast<const uchar*>(pixels_.data()), width_, height_,
                  width_ * static_cast<int>(sizeof(Pixel)), QImage::Format_RGB32);
     image.setDevicePixelRatio(scale_);
@@ -51,41 +82,35 @@ QImage PictureSurface::Image() const
 
 QRect PictureSurface::TakeChanged()
 {
-    if (!std::exchange(drawn_, false)) return {};
-    const Frame before = std::exchange(shown_, frame_);
-    if (before.digest != frame_.digest) return {0, 0, Width, Height};
-    return BoxOf(before) | BoxOf(frame_);
-}
-
-QRect PictureSurface::BoxOf(const Frame& frame) const
-{
-    if (!frame.hasDots) return {};
-    const double reach = scale_ + 1; // of a dot, and of rounding to whole pixels
-    const QRectF box(QPointF(frame.left - reach, frame.top - reach) / scale_,
-                     QPointF(frame.right + reach, frame.bottom + reach) / scale_);
-    return (box & QRectF(0, 0, Width, Height)).toAlignedRect();
-}
-
-void PictureSurface::Frame::Add(std::initializer_list<double> stroke)
-{
-    constexpr std::uint64_t kPrime = 0x100000001b3; // of the 64-bit FNV-1a hash
-    for (const double number : stroke)
-        digest = (digest ^ std::bit_cast<std::uint64_t>(number)) * kPrime;
-}
-
-void PictureSurface::Frame::AddDot(DevicePoint centre)
-{
-    left = hasDots ? std::min(left, centre.x) : centre.x;
-    right = hasDots ? std::max(right, centre.x) : centre.x;
-    top = hasDots ? std::min(top, centre.y) : centre.y;
-    bottom = hasDots ? std::max(bottom, centre.y) : centre.y;
-    hasDots = true;
+    Settle();
+    const Box box = std::exchange(changed_, {});
+    if (box.IsEmpty()) return {};
+    const auto inPicture = [this](int pixels) { return pixels / scale_; };
+    return QRectF(QPointF(inPicture(box.across.first), inPicture(box.down.first)),
+                  QPointF(inPicture(box.across.end), inPicture(box.down.end)))
+        .toAlignedRect();
 }
 
 Canvas PictureSurface::Target()
 {
-    drawn_ = true;
     return {pixels_.data(), width_, height_};
+}
+
+// What the last frame drew and this one did not repeat goes.
+void PictureSurface::Settle()
+{
+    if (log_.HasRest()) changed_ = Around(changed_, log_.TakeBackTheRest(Target()));
+}
+
+// Whether a stroke within the box has yet to be drawn. If so, the box may be drawn on.
+bool PictureSurface::IsNew(std::string_view stroke, const Box& box)
+{
+    if (log_.Repeats(stroke)) return false;
+    Settle();
+    const Box touched = Clipped(box, Target());
+    log_.Add(stroke, Target(), touched);
+    changed_ = Around(changed_, touched);
+    return true;
 }
 
 // The middle of the picture's pixel in which a place lies on the whole coordinate.
@@ -109,23 +134,28 @@ double PictureSurface::Length(float userUnits) const
 
 void PictureSurface::OnCls()
 {
+    if (log_.Restart()) return;
     Clear(Target(), background_);
-    frame_ = {};
+    changed_ = Whole(Target());
 }
 
 void PictureSurface::OnLine(float x1, float y1, float x2, float y2, Colour colour)
 {
     const DevicePoint from = Place(x1, y1);
     const DevicePoint to = Place(x2, y2);
-    frame_.Add({from.x, from.y, to.x, to.y, 1.0 * PixelOf(colour)});
-    DrawLine(Target(), from, to, scale_, PixelOf(colour));
+    const Pixel pixel = PixelOf(colour);
+    if (IsNew(BytesOf(Stroke('L', from.x, from.y, to.x, to.y, pixel)),
+              Between(from, to, scale_ + 1)))
+        DrawLine(Target(), from, to, scale_, pixel);
 }
 
 void PictureSurface::OnPoint(float x, float y, Colour colour)
 {
     const DevicePoint centre = Place(x, y);
-    frame_.AddDot(centre);
-    FillSquare(Target(), centre, std::max(1, qRound(scale_)), PixelOf(colour));
+    const int side = std::max(1, qRound(scale_));
+    const Pixel pixel = PixelOf(colour);
+    if (IsNew(BytesOf(Stroke('P', centre.x, centre.y, pixel)), SquareAt(centre, side)))
+        FillSquare(Target(), centre, side, pixel);
 }
 
 // An outline is one pixel of the picture wide, half of it on either side of the edge.
@@ -135,14 +165,17 @@ void PictureSurface::OnCircle(float x, float y, float radius, Colour outline,
     const Canvas canvas = Target();
     const DevicePoint centre = Place(x, y);
     const double size = Length(radius);
-    frame_.Add(
-        {centre.x, centre.y, size, 1.0 * PixelOf(outline), fill ? 1.0 * PixelOf(*fill) : 0.0});
+    const Pixel pixel = PixelOf(outline);
+    const Pixel filling = fill ? PixelOf(*fill) : 0;
+    if (!IsNew(BytesOf(Stroke('C', centre.x, centre.y, size, pixel, filling)),
+               Between(centre, centre, size + scale_ + 1)))
+        return;
     if (!fill) {
-        DrawRing(canvas, centre, size, scale_, PixelOf(outline));
+        DrawRing(canvas, centre, size, scale_, pixel);
         return;
     }
-    FillDisc(canvas, centre, size + scale_ / 2, PixelOf(outline));
-    if (*fill != outline) FillDisc(canvas, centre, size - scale_ / 2, PixelOf(*fill));
+    FillDisc(canvas, centre, size + scale_ / 2, pixel);
+    if (filling != pixel) FillDisc(canvas, centre, size - scale_ / 2, filling);
 }
 
 void PictureSurface::OnArc(float x, float y, float radius, Colour outline, double start, double end)
@@ -150,7 +183,9 @@ void PictureSurface::OnArc(float x, float y, float radius, Colour outline, doubl
     const DevicePoint centre = Place(x, y);
     const double size = Length(radius);
     const Pixel pixel = PixelOf(outline);
-    frame_.Add({centre.x, centre.y, size, 1.0 * pixel, start, end});
+    if (!IsNew(BytesOf(Stroke('A', centre.x, centre.y, size, pixel, start, end)),
+               Between(centre, centre, size + scale_ + 1)))
+        return;
     DrawArc(Target(), centre, size, scale_, {std::fabs(start), std::fabs(end)}, pixel);
     for (const double angle : {start, end})
         if (angle < 0) Spoke(centre, size, -angle, pixel);
@@ -167,11 +202,14 @@ void PictureSurface::OnSector(float x, float y, float radius, Colour outline,
     const DevicePoint centre = Place(x, y);
     const double size = Length(radius);
     const double half = scale_ / 2;
+    const Pixel pixel = PixelOf(outline);
+    const Pixel filling = PixelOf(*fill);
+    if (!IsNew(BytesOf(Stroke('S', centre.x, centre.y, size, pixel, filling, start, end)),
+               Between(centre, centre, size + scale_ + 1)))
+        return;
     const Wedge wedge{-start, -end};
-    frame_.Add(
-        {centre.x, centre.y, size, 1.0 * PixelOf(outline), 1.0 * PixelOf(*fill), start, end});
-    FillSector(canvas, centre, size + half, wedge, half, PixelOf(outline));
-    if (*fill != outline) FillSector(canvas, centre, size - half, wedge, -half, PixelOf(*fill));
+    FillSector(canvas, centre, size + half, wedge, half, pixel);
+    if (filling != pixel) FillSector(canvas, centre, size - half, wedge, -half, filling);
 }
 
 void PictureSurface::Spoke(DevicePoint centre, double radius, double angle, Pixel pixel)
@@ -185,11 +223,14 @@ void PictureSurface::OnText(float x, float y, Colour colour, std::string_view te
 {
     const DevicePoint place = Place(x, y);
     const TextMask& mask = MaskOf(text);
-    frame_.Add({place.x, place.y, 1.0 * PixelOf(colour),
-                static_cast<double>(std::hash<std::string_view>()(text))});
+    const Pixel pixel = PixelOf(colour);
     const double half = scale_ / 2; // a text's corner is a corner of its pixel
-    DrawMask(Target(), qRound(place.x - half), qRound(place.y - half),
-             {mask.coverage, mask.width, mask.height}, PixelOf(colour));
+    const int left = qRound(place.x - half);
+    const int top = qRound(place.y - half);
+    std::string stroke(BytesOf(Stroke('T', left, top, pixel)));
+    stroke += text;
+    if (IsNew(stroke, {{left, left + mask.width}, {top, top + mask.height}}))
+        DrawMask(Target(), left, top, {mask.coverage, mask.width, mask.height}, pixel);
 }
 
 // Few texts recur at every frame; a clock's texts pass through.

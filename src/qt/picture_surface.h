@@ -6,11 +6,11 @@
 #include "app/control_table.h"
 #include "app/drawing_surface.h"
 #include "qt/raster.h"
+#include "qt/stroke_log.h"
 
 #include <QHash>
 #include <QImage>
 #include <QRect>
-#include <initializer_list>
 #include <vector>
 
 namespace selvane {
@@ -25,10 +25,10 @@ public:
     double DeviceScale() const { return scale_; }
 
     // The picture as drawn so far; valid until the surface is drawn on or scaled.
-    QImage Image() const;
+    QImage Image();
 
     // Where the picture differs from what it was at the last call, in pixels of the picture; empty
-    // where nothing was drawn. Never too small, but it may be too large.
+    // where it is the same. Never too small, but it may be too large.
     QRect TakeChanged();
 
 protected:
@@ -43,18 +43,6 @@ protected:
     void OnText(float x, float y, Colour colour, std::string_view text) override;
 
 private:
-    // What was drawn since the last Cls, as far as it tells where two frames differ: dots by where
-    // they lie, since they are many and move, all else by a digest, since it mostly stays.
-    struct Frame
-    {
-        std::uint64_t digest = 0;
-        double left = 0, top = 0, right = 0, bottom = 0; // device pixels
-        bool hasDots = false;
-
-        void Add(std::initializer_list<double> stroke);
-        void AddDot(DevicePoint centre);
-    };
-
     struct TextMask
     {
         std::vector<std::uint8_t> coverage;
@@ -67,8 +55,9 @@ private:
     };
 
     static double PerUnit(Axis& axis, double units, int pixels);
-    QRect BoxOf(const Frame& frame) const;
     Canvas Target();
+    void Settle();
+    bool IsNew(std::string_view stroke, const Box& box);
     DevicePoint Place(float x, float y) const;
     double Length(float userUnits) const;
     void Spoke(DevicePoint centre, double radius, double angle, Pixel pixel);
@@ -80,8 +69,8 @@ private:
     int width_ = 0, height_ = 0; // device pixels
     std::vector<Pixel> pixels_;
     QHash<QByteArray, TextMask> masks_;
-    Frame frame_, shown_;
-    bool drawn_ = true;
+    StrokeLog log_;
+    Box changed_{}; // since the last TakeChanged
 };
 
 } // namespace selvane

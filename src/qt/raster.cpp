@@ -81,13 +81,14 @@ void Clear(const Canvas& canvas, Pixel pixel)
 
 void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel)
 {
-    const int left = NearestWhole(centre.x - side / 2.0);
-    const int top = NearestWhole(centre.y - side / 2.0);
-    if (left < 0 || top < 0 || left + side > canvas.width || top + side > canvas.height) {
-        FillBlock(canvas, {left, left + side}, {top, top + side}, pixel);
+    const Box box = SquareAt(centre, side);
+    const auto [left, right] = box.across;
+    const auto [top, bottom] = box.down;
+    if (left < 0 || top < 0 || right > canvas.width || bottom > canvas.height) {
+        FillBlock(canvas, box.across, box.down, pixel);
         return;
     }
-    for (int y = top; y < top + side; ++y) {
+    for (int y = top; y < bottom; ++y) {
         Pixel* const row = canvas.Row(y) + left;
         for (int x = 0; x < side; ++x) row[x] = pixel;
     }

@@ -35,6 +35,27 @@ inline Run Clipped(Run run, int limit)
     return {std::max(run.first, 0), std::min(run.end, limit)};
 }
 
+// Empty where either run is.
+struct Box
+{
+    Run across, down;
+
+    bool IsEmpty() const { return across.IsEmpty() || down.IsEmpty(); }
+};
+
+inline Box Clipped(const Box& box, const Canvas& canvas)
+{
+    return {Clipped(box.across, canvas.width), Clipped(box.down, canvas.height)};
+}
+
+// The square about a centre, moved to the nearest whole pixels.
+inline Box SquareAt(DevicePoint centre, int side)
+{
+    const int left = NearestWhole(centre.x - side / 2.0);
+    const int top = NearestWhole(centre.y - side / 2.0);
+    return {{left, left + side}, {top, top + side}};
+}
+
 // The pixels whose centres lie from `low` to `high`, both included.
 inline Run CentresWithin(double low, double high)
 {
