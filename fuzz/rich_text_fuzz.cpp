@@ -1,5 +1,5 @@
 // libFuzzer target: any bytes give the reader's document or error, and nothing worse.
-#include "documents/rich_text_reader.h"
+#include "rich_text/reader.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,8 +3,8 @@
 
 #include "app/control_table.h"
 #include "app/number_text.h"
-#include "documents/rich_text_reader.h"
 #include "replay/player.h"
+#include "rich_text/reader.h"
 
 #include <algorithm>
 #include <cmath>

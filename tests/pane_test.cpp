@@ -1,11 +1,11 @@
 // The rich-text pane, the user guide and the about box as a user meets them.
 #include "app/help_pane.h"
 #include "bench.h"
-#include "documents/rich_text.h"
 #include "qt/about_window.h"
 #include "qt/dispatch.h"
 #include "qt/help_pane_widget.h"
 #include "qt/user_guide_window.h"
+#include "rich_text/rich_text.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 // The rich-text reader: what a document says, how it looks, and what damage does to it.
-#include "documents/character_sets.h"
-#include "documents/rich_text_reader.h"
+#include "rich_text/character_sets.h"
+#include "rich_text/reader.h"
 
 #include <chrono>
 #include <filesystem>

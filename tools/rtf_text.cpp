@@ -2,7 +2,7 @@
 //   rtf_text FILE           the text of its body, one paragraph a line
 //   rtf_text --marks FILE   its formatting, one line a mark: kind, a tab, the marked text
 // Exits with 1 if the reader refuses the file, with 2 on wrong usage.
-#include "documents/rich_text_reader.h"
+#include "rich_text/reader.h"
 
 #include <cstdio>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "qt/picture_decoder.h"
 
-#include "documents/rich_text.h"
+#include "rich_text/rich_text.h"
 
 #include <QBuffer>
 #include <QImageReader>

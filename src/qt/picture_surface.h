@@ -5,8 +5,8 @@
 
 #include "app/control_table.h"
 #include "app/drawing_surface.h"
-#include "qt/raster.h"
-#include "qt/stroke_log.h"
+#include "raster/raster.h"
+#include "raster/stroke_log.h"
 
 #include <QHash>
 #include <QImage>

@@ -2,7 +2,7 @@
 // A twip is 1/15 of a pixel, a half-point 2/3 of one; both times the zoom.
 #pragma once
 
-#include "documents/rich_text.h"
+#include "rich_text/rich_text.h"
 
 #include <QString>
 #include <QTextDocument>

@@ -2,7 +2,7 @@
 // and cells may be merged.
 #pragma once
 
-#include "documents/rich_text.h"
+#include "rich_text/rich_text.h"
 
 #include <vector>
 

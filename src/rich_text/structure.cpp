@@ -1,7 +1,7 @@
 // What the words about lists, tables, fields, pictures and destinations do.
-#include "documents/code_page_tables.h"
-#include "documents/rich_text_fields.h"
-#include "documents/rich_text_words.h"
+#include "rich_text/code_page_tables.h"
+#include "rich_text/fields.h"
+#include "rich_text/words.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // The row of a control word. Only the interpreter's own files include this.
 #pragma once
 
-#include "documents/rich_text_interpreter.h"
+#include "rich_text/interpreter.h"
 
 #include <algorithm>
 

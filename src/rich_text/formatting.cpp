@@ -1,5 +1,5 @@
 // What the words about characters and paragraphs do.
-#include "documents/rich_text_words.h"
+#include "rich_text/words.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 // Bytes of the many character sets of rich text, as UTF-8.
 #pragma once
 
-#include "documents/multi_byte_converter.h"
+#include "rich_text/multi_byte_converter.h"
 
 #include <cstdint>
 #include <string>

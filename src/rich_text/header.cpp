@@ -1,6 +1,6 @@
-#include "documents/rich_text_header.h"
+#include "rich_text/header.h"
 
-#include "documents/character_sets.h"
+#include "rich_text/character_sets.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "documents/rich_text.h"
+#include "rich_text/rich_text.h"
 
 namespace selvane {
 

@@ -1,4 +1,4 @@
-#include "qt/stroke_log.h"
+#include "raster/stroke_log.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Gathers paragraphs, cells and rows, in the order of the file, into blocks.
 #pragma once
 
-#include "documents/rich_text.h"
+#include "rich_text/rich_text.h"
 
 #include <string_view>
 #include <vector>

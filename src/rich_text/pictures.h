@@ -1,7 +1,7 @@
 // Gathers the data of a picture and reads its size from its own header.
 #pragma once
 
-#include "documents/rich_text.h"
+#include "rich_text/rich_text.h"
 
 #include <string_view>
 

@@ -1,14 +1,14 @@
 // Gives the tokens of a rich-text document their meaning. One object reads one document.
 #pragma once
 
-#include "documents/character_sets.h"
-#include "documents/rich_text.h"
-#include "documents/rich_text_flow.h"
-#include "documents/rich_text_header.h"
-#include "documents/rich_text_lists.h"
-#include "documents/rich_text_pictures.h"
-#include "documents/rich_text_reader.h"
-#include "documents/rich_text_tokens.h"
+#include "rich_text/character_sets.h"
+#include "rich_text/flow.h"
+#include "rich_text/header.h"
+#include "rich_text/lists.h"
+#include "rich_text/pictures.h"
+#include "rich_text/reader.h"
+#include "rich_text/rich_text.h"
+#include "rich_text/tokens.h"
 
 #include <string>
 #include <string_view>

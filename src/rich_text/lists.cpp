@@ -1,4 +1,4 @@
-#include "documents/rich_text_lists.h"
+#include "rich_text/lists.h"
 
 #include <algorithm>
 

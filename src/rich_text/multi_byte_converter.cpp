@@ -1,4 +1,4 @@
-#include "documents/multi_byte_converter.h"
+#include "rich_text/multi_byte_converter.h"
 
 #include <array>
 #include <iconv.h>

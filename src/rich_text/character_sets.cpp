@@ -1,6 +1,6 @@
-#include "documents/character_sets.h"
+#include "rich_text/character_sets.h"
 
-#include "documents/code_page_tables.h"
+#include "rich_text/code_page_tables.h"
 
 namespace selvane {
 

@@ -1,8 +1,8 @@
 // Tokens, groups, and the way of text to its destination.
-#include "documents/rich_text_interpreter.h"
+#include "rich_text/interpreter.h"
 
-#include "documents/code_page_tables.h"
-#include "documents/rich_text_words.h"
+#include "rich_text/code_page_tables.h"
+#include "rich_text/words.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
-#include "documents/rich_text_reader.h"
+#include "rich_text/reader.h"
 
-#include "documents/rich_text_interpreter.h"
+#include "rich_text/interpreter.h"
 
 #include <fstream>
 #include <string>

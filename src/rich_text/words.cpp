@@ -1,5 +1,5 @@
 // The control words that the interpreter knows: one row each. Others are passed over.
-#include "documents/rich_text_words.h"
+#include "rich_text/words.h"
 
 #include <unordered_map>
 

@@ -1,6 +1,6 @@
 // From the mapping tables of the Unicode Consortium (MAPPINGS/VENDORS). Written out where a
 // character is plain to read, escaped where it combines, runs from right to left or is blank.
-#include "documents/code_page_tables.h"
+#include "rich_text/code_page_tables.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // Reads rich text (RTF 1.9 and what its many writers make of it) into plain values.
 #pragma once
 
-#include "documents/rich_text.h"
+#include "rich_text/rich_text.h"
 
 #include <filesystem>
 #include <string_view>

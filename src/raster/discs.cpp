@@ -1,6 +1,6 @@
 // Discs, sectors, rings and arcs, row by row. Places count from the centre, y upward.
-#include "qt/raster.h"
-#include "qt/raster_spans.h"
+#include "raster/raster.h"
+#include "raster/spans.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include "documents/rich_text_pictures.h"
+#include "rich_text/pictures.h"
 
-#include "documents/rich_text_tokens.h"
+#include "rich_text/tokens.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "documents/rich_text_flow.h"
+#include "rich_text/flow.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "documents/rich_text_tokens.h"
+#include "rich_text/tokens.h"
 
 #include <algorithm>
 #include <limits>

@@ -1,6 +1,6 @@
-#include "qt/raster.h"
+#include "raster/raster.h"
 
-#include "qt/raster_spans.h"
+#include "raster/spans.h"
 
 #include <algorithm>
 #include <cmath>

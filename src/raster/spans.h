@@ -2,7 +2,7 @@
 // as a frame asks for them some thousand times.
 #pragma once
 
-#include "qt/raster.h"
+#include "raster/raster.h"
 
 #include <algorithm>
 

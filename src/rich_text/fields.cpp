@@ -1,4 +1,4 @@
-#include "documents/rich_text_fields.h"
+#include "rich_text/fields.h"
 
 #include <algorithm>
 #include <charconv>

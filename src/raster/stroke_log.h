@@ -4,8 +4,8 @@
 // cleared and drawn anew.
 #pragma once
 
-#include "qt/raster.h"
-#include "qt/raster_spans.h"
+#include "raster/raster.h"
+#include "raster/spans.h"
 
 #include <cstddef>
 #include <string>
