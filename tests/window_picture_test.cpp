@@ -1,6 +1,7 @@
 // Pictures pixel by pixel, at every scale of a screen.
-#include "bench.h"
+#include "program/program.h"
 #include "qt/picture_surface.h"
+#include "replay/scripted_platform.h"
 
 #include <cmath>
 #include <functional>
@@ -176,9 +177,9 @@ TEST_P(Picture, TextIsWrittenOverWhatIsThereFromItsTopLeftCorner)
 
 namespace {
 
-using Draw = std::function<void(DrawingSurface&)>;
+using Drawing = std::function<void(DrawingSurface&)>;
 
-Draw AnyStroke(std::mt19937& random)
+Drawing AnyStroke(std::mt19937& random)
 {
     const auto any = [&random](double low, double high) {
         return std::uniform_real_distribution(low, high)(random);
@@ -223,7 +224,7 @@ std::pair<int, int> Differences(const QImage& one, const QImage& other, QRect pa
 TEST_P(Picture, KeepsWhatAFrameRepeatsAsIfItWereDrawnAnew)
 {
     std::mt19937 random(7);
-    std::vector<Draw> frame;
+    std::vector<Drawing> frame;
     QImage before = surface.Image().copy();
     surface.TakeChanged();
     for (int turn = 0; turn < 30; ++turn) {
@@ -233,7 +234,7 @@ TEST_P(Picture, KeepsWhatAFrameRepeatsAsIfItWereDrawnAnew)
         anew.SetDeviceScale(GetParam());
         anew.Cls();
         surface.Cls();
-        for (const Draw& stroke : frame) {
+        for (const Drawing& stroke : frame) {
             stroke(surface);
             stroke(anew);
         }
@@ -244,12 +245,17 @@ TEST_P(Picture, KeepsWhatAFrameRepeatsAsIfItWereDrawnAnew)
         before = now;
     }
     EXPECT_TRUE(surface.TakeChanged().isEmpty());
+
+    surface.SetDeviceScale(4); // as on another screen, and back
+    surface.SetDeviceScale(GetParam());
+    EXPECT_EQ(Differences(surface.Image(), before).first, 0);
+    EXPECT_EQ(surface.TakeChanged(), QRect(0, 0, 400, 300));
 }
 
 TEST(DefaultPicture, ChangesInASmallPartAtEachTick)
 {
     PictureSurface picture(kPicSelvane), demo(kPicDemo);
-    FakePlatform platform;
+    replay::ScriptedPlatform platform;
     Simulation sim(picture, demo, platform, TheWiring());
     Load(sim);
     FirstShowing(sim);

@@ -5,7 +5,6 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <string>
 #include <utility>
@@ -14,30 +13,16 @@ namespace selvane {
 
 namespace {
 
-// Two strokes with the same numbers leave the same pixels; the first number is the kind.
-template <typename... Numbers> auto Stroke(char kind, Numbers... numbers)
-{
-    return std::array{static_cast<double>(kind), static_cast<double>(numbers)...};
-}
+using Kind = PictureStroke::Kind;
 
-template <std::size_t N> std::string_view BytesOf(const std::array<double, N>& stroke)
+std::optional<Pixel> PixelOf(std::optional<Colour> colour)
 {
-    return {reinterpret_cast<const char*>(stroke.data()), sizeof stroke};
+    return colour ? std::optional(selvane::PixelOf(*colour)) : std::nullopt;
 }
 
 Box Whole(const Canvas& canvas)
 {
     return {{0, canvas.width}, {0, canvas.height}};
-}
-
-// All that a stroke from one place to the other touches, which reaches so far beyond them.
-Box Between(DevicePoint from, DevicePoint to, double reach)
-{
-    const auto run = [reach](double one, double other) {
-        const auto [low, high] = std::minmax(one, other);
-        return Run{WholeBelow(low - reach), WholeBelow(high + reach) + 1};
-    };
-    return {run(from.x, to.x), run(from.y, to.y)};
 }
 
 } // namespace
@@ -53,22 +38,14 @@ void PictureSurface::SetDeviceScale(double scale)
     const int width = qRound(Width * scale);
     const int height = qRound(Height * scale);
     if (width == width_ && height == height_) return;
-    std::vector<Pixel> pixels(static_cast<std::size_t>(width) * static_cast<std::size_t>(height),
-                              background_);
-    if (!pixels_.empty()) {
-        const QImage old =
-            Image().scaled(width, height, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        for (int y = 0; y < height; ++y)
-            std::copy_n(reinterpret_cast<const Pixel*>(old.constScanLine(y)), width,
-                        pixels.data() + static_cast<std::ptrdiff_t>(y) * width);
-    }
-    pixels_ = std::move(pixels);
+    Settle();
     width_ = width;
     height_ = height;
     scale_ = scale;
+    pixels_.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), background_);
     masks_.clear();
-    log_.Forget();
     changed_ = Whole(Target());
+    for (PictureStroke& stroke : log_.TakeAll()) Take(std::move(stroke));
 }
 
 QImage PictureSurface::Image()
@@ -102,22 +79,43 @@ void PictureSurface::Settle()
     if (log_.HasRest()) changed_ = Around(changed_, log_.TakeBackTheRest(Target()));
 }
 
-// Whether a stroke within the box has yet to be drawn. If so, the box may be drawn on.
-bool PictureSurface::IsNew(std::string_view stroke, const Box& box)
+// Draws a stroke, unless it stands already.
+void PictureSurface::Take(PictureStroke stroke)
 {
-    if (log_.Repeats(stroke)) return false;
+    if (log_.Repeats(stroke)) return;
     Settle();
-    const Box touched = Clipped(box, Target());
-    log_.Add(stroke, Target(), touched);
-    changed_ = Around(changed_, touched);
-    return true;
+    const bool isText = stroke.kind == Kind::Text;
+    const Box box = Clipped(isText ? BoxOfText(stroke) : BoxOf(stroke, scale_), Target());
+    changed_ = Around(changed_, box);
+    const PictureStroke& standing = log_.Add(std::move(stroke), Target(), box);
+    if (isText)
+        DrawText(standing);
+    else
+        Draw(Target(), standing, scale_, box);
 }
 
-// The middle of the picture's pixel in which a place lies on the whole coordinate.
+// A text's corner is a corner of its pixel.
+Box PictureSurface::BoxOfText(const PictureStroke& stroke)
+{
+    const TextMask& mask = MaskOf(stroke.text);
+    const int left = qRound(stroke.at.x * scale_ - scale_ / 2);
+    const int top = qRound(stroke.at.y * scale_ - scale_ / 2);
+    return {{left, left + mask.width}, {top, top + mask.height}};
+}
+
+void PictureSurface::DrawText(const PictureStroke& stroke)
+{
+    const TextMask& mask = MaskOf(stroke.text);
+    const Box box = BoxOfText(stroke);
+    DrawMask(Target(), box.across.first, box.down.first, {mask.coverage, mask.width, mask.height},
+             stroke.pixel);
+}
+
+// In pixels of the picture: the middle of the one in which a place lies on the whole coordinate.
 DevicePoint PictureSurface::Place(float x, float y) const
 {
-    return {((x - ScaleLeft) * PerUnit(across_, ScaleWidth, Width) + 0.5) * scale_,
-            ((y - ScaleTop) * PerUnit(down_, ScaleHeight, Height) + 0.5) * scale_};
+    return {(x - ScaleLeft) * PerUnit(across_, ScaleWidth, Width) + 0.5,
+            (y - ScaleTop) * PerUnit(down_, ScaleHeight, Height) + 0.5};
 }
 
 // A dot needs two of these, and a frame has a thousand dots: the division is kept.
@@ -129,7 +127,7 @@ double PictureSurface::PerUnit(Axis& axis, double units, int pixels)
 
 double PictureSurface::Length(float userUnits) const
 {
-    return std::fabs(userUnits * PerUnit(across_, ScaleWidth, Width)) * scale_;
+    return std::fabs(userUnits * PerUnit(across_, ScaleWidth, Width));
 }
 
 void PictureSurface::OnCls()
@@ -141,96 +139,52 @@ void PictureSurface::OnCls()
 
 void PictureSurface::OnLine(float x1, float y1, float x2, float y2, Colour colour)
 {
-    const DevicePoint from = Place(x1, y1);
-    const DevicePoint to = Place(x2, y2);
-    const Pixel pixel = PixelOf(colour);
-    if (IsNew(BytesOf(Stroke('L', from.x, from.y, to.x, to.y, pixel)),
-              Between(from, to, scale_ + 1)))
-        DrawLine(Target(), from, to, scale_, pixel);
+    Take({.kind = Kind::Line, .pixel = PixelOf(colour), .at = Place(x1, y1), .to = Place(x2, y2)});
 }
 
 void PictureSurface::OnPoint(float x, float y, Colour colour)
 {
-    const DevicePoint centre = Place(x, y);
-    const int side = std::max(1, qRound(scale_));
-    const Pixel pixel = PixelOf(colour);
-    if (IsNew(BytesOf(Stroke('P', centre.x, centre.y, pixel)), SquareAt(centre, side)))
-        FillSquare(Target(), centre, side, pixel);
+    Take({.kind = Kind::Dot, .pixel = PixelOf(colour), .at = Place(x, y)});
 }
 
-// An outline is one pixel of the picture wide, half of it on either side of the edge.
 void PictureSurface::OnCircle(float x, float y, float radius, Colour outline,
                               std::optional<Colour> fill)
 {
-    const Canvas canvas = Target();
-    const DevicePoint centre = Place(x, y);
-    const double size = Length(radius);
-    const Pixel pixel = PixelOf(outline);
-    const Pixel filling = fill ? PixelOf(*fill) : 0;
-    if (!IsNew(BytesOf(Stroke('C', centre.x, centre.y, size, pixel, filling)),
-               Between(centre, centre, size + scale_ + 1)))
-        return;
-    if (!fill) {
-        DrawRing(canvas, centre, size, scale_, pixel);
-        return;
-    }
-    FillDisc(canvas, centre, size + scale_ / 2, pixel);
-    if (filling != pixel) FillDisc(canvas, centre, size - scale_ / 2, filling);
+    Take({.kind = Kind::Circle,
+          .pixel = PixelOf(outline),
+          .at = Place(x, y),
+          .radius = Length(radius),
+          .filling = PixelOf(fill)});
 }
 
 void PictureSurface::OnArc(float x, float y, float radius, Colour outline, double start, double end)
 {
-    const DevicePoint centre = Place(x, y);
-    const double size = Length(radius);
-    const Pixel pixel = PixelOf(outline);
-    if (!IsNew(BytesOf(Stroke('A', centre.x, centre.y, size, pixel, start, end)),
-               Between(centre, centre, size + scale_ + 1)))
-        return;
-    DrawArc(Target(), centre, size, scale_, {std::fabs(start), std::fabs(end)}, pixel);
-    for (const double angle : {start, end})
-        if (angle < 0) Spoke(centre, size, -angle, pixel);
+    Take({.kind = Kind::Arc,
+          .pixel = PixelOf(outline),
+          .at = Place(x, y),
+          .radius = Length(radius),
+          .start = start,
+          .end = end});
 }
 
 void PictureSurface::OnSector(float x, float y, float radius, Colour outline,
                               std::optional<Colour> fill, double start, double end)
 {
-    if (!fill) {
-        OnArc(x, y, radius, outline, start, end);
-        return;
-    }
-    const Canvas canvas = Target();
-    const DevicePoint centre = Place(x, y);
-    const double size = Length(radius);
-    const double half = scale_ / 2;
-    const Pixel pixel = PixelOf(outline);
-    const Pixel filling = PixelOf(*fill);
-    if (!IsNew(BytesOf(Stroke('S', centre.x, centre.y, size, pixel, filling, start, end)),
-               Between(centre, centre, size + scale_ + 1)))
-        return;
-    const Wedge wedge{-start, -end};
-    FillSector(canvas, centre, size + half, wedge, half, pixel);
-    if (filling != pixel) FillSector(canvas, centre, size - half, wedge, -half, filling);
-}
-
-void PictureSurface::Spoke(DevicePoint centre, double radius, double angle, Pixel pixel)
-{
-    DrawLine(Target(), centre,
-             {centre.x + radius * std::cos(angle), centre.y - radius * std::sin(angle)}, scale_,
-             pixel);
+    Take({.kind = fill ? Kind::Sector : Kind::Arc,
+          .pixel = PixelOf(outline),
+          .at = Place(x, y),
+          .radius = Length(radius),
+          .start = start,
+          .end = end,
+          .filling = PixelOf(fill)});
 }
 
 void PictureSurface::OnText(float x, float y, Colour colour, std::string_view text)
 {
-    const DevicePoint place = Place(x, y);
-    const TextMask& mask = MaskOf(text);
-    const Pixel pixel = PixelOf(colour);
-    const double half = scale_ / 2; // a text's corner is a corner of its pixel
-    const int left = qRound(place.x - half);
-    const int top = qRound(place.y - half);
-    std::string stroke(BytesOf(Stroke('T', left, top, pixel)));
-    stroke += text;
-    if (IsNew(stroke, {{left, left + mask.width}, {top, top + mask.height}}))
-        DrawMask(Target(), left, top, {mask.coverage, mask.width, mask.height}, pixel);
+    Take({.kind = Kind::Text,
+          .pixel = PixelOf(colour),
+          .at = Place(x, y),
+          .text = std::string(text)});
 }
 
 // Few texts recur at every frame; a clock's texts pass through.

@@ -5,7 +5,6 @@
 
 #include "app/control_table.h"
 #include "app/drawing_surface.h"
-#include "raster/raster.h"
 #include "raster/stroke_log.h"
 
 #include <QHash>
@@ -20,7 +19,7 @@ class PictureSurface : public DrawingSurface
 public:
     explicit PictureSurface(const PictureRow& row);
 
-    // Device pixels per pixel of the picture, above 0. A new scale keeps what is drawn, resampled.
+    // Device pixels per pixel of the picture, above 0. At a new scale the picture is drawn anew.
     void SetDeviceScale(double scale);
     double DeviceScale() const { return scale_; }
 
@@ -55,12 +54,13 @@ private:
     };
 
     static double PerUnit(Axis& axis, double units, int pixels);
-    Canvas Target();
-    void Settle();
-    bool IsNew(std::string_view stroke, const Box& box);
     DevicePoint Place(float x, float y) const;
     double Length(float userUnits) const;
-    void Spoke(DevicePoint centre, double radius, double angle, Pixel pixel);
+    Canvas Target();
+    void Settle();
+    void Take(PictureStroke stroke);
+    Box BoxOfText(const PictureStroke& stroke);
+    void DrawText(const PictureStroke& stroke);
     const TextMask& MaskOf(std::string_view text);
 
     const Pixel background_;

@@ -67,31 +67,18 @@ void SmoothLine(DevicePoint from, DevicePoint to, double thickness, Pixel pixel,
 
 } // namespace
 
-void FillBlock(const Canvas& canvas, Run across, Run down, Pixel pixel)
+void FillBox(const Canvas& canvas, const Box& box, Pixel pixel)
 {
-    across = Clipped(across, canvas.width);
-    down = Clipped(down, canvas.height);
-    for (int y = down.first; y < down.end; ++y) FillRun(canvas.Row(y), across, pixel);
+    const auto [across, down] = Clipped(box, canvas);
+    for (int y = down.first; y < down.end; ++y) {
+        Pixel* const row = canvas.Row(y);
+        for (int x = across.first; x < across.end; ++x) row[x] = pixel;
+    }
 }
 
 void Clear(const Canvas& canvas, Pixel pixel)
 {
     std::fill(canvas.pixels, canvas.Row(canvas.height), pixel);
-}
-
-void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel)
-{
-    const Box box = SquareAt(centre, side);
-    const auto [left, right] = box.across;
-    const auto [top, bottom] = box.down;
-    if (left < 0 || top < 0 || right > canvas.width || bottom > canvas.height) {
-        FillBlock(canvas, box.across, box.down, pixel);
-        return;
-    }
-    for (int y = top; y < bottom; ++y) {
-        Pixel* const row = canvas.Row(y) + left;
-        for (int x = 0; x < side; ++x) row[x] = pixel;
-    }
 }
 
 void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness, Pixel pixel)
@@ -101,7 +88,7 @@ void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thi
     constexpr double kStraight = 1e-6;
     if (right - left < kStraight || bottom - top < kStraight) {
         const int side = std::max(1, NearestWhole(thickness));
-        FillBlock(canvas, Thick(left, right, side), Thick(top, bottom, side), pixel);
+        FillBox(canvas, {Thick(left, right, side), Thick(top, bottom, side)}, pixel);
         return;
     }
     const std::optional<Segment> line = Visible(canvas, {from, to}, thickness + 1);

@@ -33,6 +33,8 @@ struct Canvas
 struct DevicePoint
 {
     double x, y;
+
+    bool operator==(const DevicePoint&) const = default;
 };
 
 // The part of a disc from one ray to the other, radians, counter-clockwise on the screen from the
@@ -43,9 +45,6 @@ struct Wedge
 };
 
 void Clear(const Canvas& canvas, Pixel pixel);
-
-// A square about a centre, moved to the nearest whole pixels. Side 1 or more.
-void FillSquare(const Canvas& canvas, DevicePoint centre, int side, Pixel pixel);
 
 // Both ends are part of it. Level and upright lines are crisp, all others smoothed.
 void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness,

@@ -67,7 +67,7 @@ inline void FillRun(Pixel* row, Run run, Pixel pixel)
     if (!run.IsEmpty()) std::fill(row + run.first, row + run.end, pixel);
 }
 
-void FillBlock(const Canvas& canvas, Run across, Run down, Pixel pixel);
+void FillBox(const Canvas& canvas, const Box& box, Pixel pixel);
 
 // The weight of a colour that replaces what is below; 0 leaves that.
 inline constexpr std::uint32_t kWhole = 256;

@@ -1,6 +1,7 @@
 #include "raster/stroke_log.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace selvane {
 
@@ -35,23 +36,16 @@ Box Around(const Box& one, const Box& other)
 
 bool StrokeLog::Restart()
 {
+    const bool goesOn = canTakeBack_ && !strokes_.empty();
+    if (!goesOn) TakeAll();
+    canTakeBack_ = true;
     repeated_ = 0;
-    const bool canGoOn = known_ && !strokes_.empty();
-    known_ = true;
-    return canGoOn;
+    return goesOn;
 }
 
-std::size_t StrokeLog::BytesBefore(std::size_t stroke) const
+bool StrokeLog::Repeats(const PictureStroke& stroke)
 {
-    return stroke == 0 ? 0 : strokes_[stroke - 1].bytesEnd;
-}
-
-bool StrokeLog::Repeats(std::string_view stroke)
-{
-    if (!HasRest()) return false;
-    const std::size_t from = BytesBefore(repeated_);
-    const std::size_t length = strokes_[repeated_].bytesEnd - from;
-    if (std::string_view(bytes_).substr(from, length) != stroke) return false;
+    if (!HasRest() || !(strokes_[repeated_] == stroke)) return false;
     ++repeated_;
     return true;
 }
@@ -59,8 +53,8 @@ bool StrokeLog::Repeats(std::string_view stroke)
 Box StrokeLog::TakeBackTheRest(const Canvas& canvas)
 {
     Box changed{};
-    for (; strokes_.size() > repeated_; strokes_.pop_back()) {
-        const Box& box = strokes_.back().box;
+    for (std::size_t last = strokes_.size(); last > repeated_; --last) {
+        const Box& box = boxes_[last - 1];
         if (box.IsEmpty()) continue;
         const auto width = box.across.end - box.across.first;
         auto old = below_.end() - static_cast<std::ptrdiff_t>(Area(box));
@@ -69,33 +63,45 @@ Box StrokeLog::TakeBackTheRest(const Canvas& canvas)
         below_.resize(below_.size() - Area(box));
         changed = Around(changed, box);
     }
-    bytes_.resize(BytesBefore(repeated_));
+    strokes_.erase(strokes_.begin() + static_cast<std::ptrdiff_t>(repeated_), strokes_.end());
+    boxes_.resize(repeated_);
     return changed;
 }
 
-void StrokeLog::Add(std::string_view stroke, const Canvas& canvas, const Box& box)
+const PictureStroke& StrokeLog::Add(PictureStroke&& stroke, const Canvas& canvas, const Box& box)
 {
-    if (!known_) return;
-    if (below_.size() + Area(box) > MostPixels(canvas)) {
-        Forget();
-        return;
+    constexpr std::size_t kMostStrokes = 50'000;
+    if (strokes_.size() == kMostStrokes) TakeAll();
+    if (canTakeBack_ && below_.size() + Area(box) > MostPixels(canvas)) ForgetPixels();
+    if (canTakeBack_) {
+        SavePixels(canvas, box);
+        boxes_.push_back(box);
     }
+    strokes_.push_back(std::move(stroke));
+    repeated_ = strokes_.size();
+    return strokes_.back();
+}
+
+void StrokeLog::SavePixels(const Canvas& canvas, const Box& box)
+{
     for (int row = box.down.first; row < box.down.end; ++row) {
         const Pixel* const pixels = canvas.Row(row);
         for (int at = box.across.first; at < box.across.end; ++at) below_.push_back(pixels[at]);
     }
-    bytes_ += stroke;
-    strokes_.push_back({bytes_.size(), box});
-    repeated_ = strokes_.size();
 }
 
-void StrokeLog::Forget()
+std::vector<PictureStroke> StrokeLog::TakeAll()
 {
-    strokes_.clear();
-    bytes_.clear();
-    below_.clear();
+    ForgetPixels();
     repeated_ = 0;
-    known_ = false;
+    return std::exchange(strokes_, {});
+}
+
+void StrokeLog::ForgetPixels()
+{
+    boxes_.clear();
+    below_.clear();
+    canTakeBack_ = false;
 }
 
 } // namespace selvane

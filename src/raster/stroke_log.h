@@ -4,12 +4,10 @@
 // cleared and drawn anew.
 #pragma once
 
-#include "raster/raster.h"
+#include "raster/picture_stroke.h"
 #include "raster/spans.h"
 
 #include <cstddef>
-#include <string>
-#include <string_view>
 #include <vector>
 
 namespace selvane {
@@ -20,13 +18,12 @@ Box Around(const Box& one, const Box& other);
 class StrokeLog
 {
 public:
-    // The next frame begins. False where no stroke can be kept or taken back: the picture has to be
-    // cleared.
+    // The next frame begins. False where the strokes that stand cannot be taken back: they are no
+    // longer known, and the picture has to be cleared.
     bool Restart();
 
-    // Whether the stroke is the next one of those that stand already, so that it stands too. A
-    // stroke is any bytes that are the same only where its pixels are.
-    bool Repeats(std::string_view stroke);
+    // Whether the stroke is the next one of those that stand already, so that it stands too.
+    bool Repeats(const PictureStroke& stroke);
 
     bool HasRest() const { return repeated_ < strokes_.size(); }
 
@@ -34,26 +31,23 @@ public:
     Box TakeBackTheRest(const Canvas& canvas);
 
     // Remembers a stroke and what is below it; call before it is drawn within the box, with nothing
-    // left to take back. Strokes that cover too much in all are forgotten.
-    void Add(std::string_view stroke, const Canvas& canvas, const Box& box);
+    // left to take back. Strokes that cover too much in all can no longer be taken back; of those
+    // that no frame ends, the oldest are forgotten.
+    // Returns the stroke, valid until the next one.
+    const PictureStroke& Add(PictureStroke&& stroke, const Canvas& canvas, const Box& box);
 
-    // As when what is on the picture is not known.
-    void Forget();
+    // The strokes that stand, in their order; empties the log, as before the first Restart.
+    std::vector<PictureStroke> TakeAll();
 
 private:
-    struct Stroke
-    {
-        std::size_t bytesEnd; // in bytes_
-        Box box;
-    };
+    void SavePixels(const Canvas& canvas, const Box& box);
+    void ForgetPixels();
 
-    std::size_t BytesBefore(std::size_t stroke) const;
-
-    std::vector<Stroke> strokes_;
-    std::string bytes_;
-    std::vector<Pixel> below_; // of each stroke's box, row upon row
+    std::vector<PictureStroke> strokes_;
+    std::vector<Box> boxes_;   // one for each stroke while they can be taken back
+    std::vector<Pixel> below_; // of each box, row upon row
     std::size_t repeated_ = 0; // strokes of this frame that stood already
-    bool known_ = false;
+    bool canTakeBack_ = false;
 };
 
 } // namespace selvane
