@@ -1,5 +1,5 @@
 // The user guide and the about box without their windows: what a click loads, opens or starts.
-#include "bench.h"
+#include "replay/stage.h"
 
 #include <gtest/gtest.h>
 #include <map>
@@ -12,7 +12,7 @@ const std::string kTool = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
 const std::string kToolFolder = "SOFTWARE\\Microsoft\\Shared Tools Location";
 
 // A machine with a registry of text keys; notes what it is asked, in order.
-class Machine : public FakePlatform
+class Machine : public replay::ScriptedPlatform
 {
 public:
     std::map<std::string, RegistryValue> registry; // by "key|value"
@@ -65,7 +65,7 @@ private:
 
 struct Desk
 {
-    Recorder pictures[2]{{800, 600}, {400, 300}};
+    replay::RecordingSurface pictures[2]{{800, 600}, {400, 300}};
     Machine machine;
     Simulation sim{pictures[0], pictures[1], machine, TheWiring()};
 };
@@ -77,7 +77,7 @@ const std::string kUnavailable = "Selvane: System Information Is Unavailable At 
 
 TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
 {
-    Bench desk;
+    replay::Stage desk;
     mnAbout_Click(desk.sim);
     const AboutWindow& box = desk.sim.windows.frmAbout;
     EXPECT_EQ(box.caption, "About Selvane");

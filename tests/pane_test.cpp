@@ -1,10 +1,10 @@
 // The rich-text pane, the user guide and the about box as a user meets them.
 #include "app/help_pane.h"
-#include "bench.h"
 #include "qt/about_window.h"
 #include "qt/dispatch.h"
 #include "qt/help_pane_widget.h"
 #include "qt/user_guide_window.h"
+#include "replay/stage.h"
 #include "rich_text/rich_text.h"
 
 #include <QScrollBar>
@@ -75,13 +75,13 @@ struct Pane
 // A secondary window that is made to match its record after each event.
 template <typename Frame> struct Opened
 {
-    Bench bench;
-    Dispatch door{bench.sim};
+    replay::Stage stage;
+    Dispatch door{stage.sim};
     Frame frame{door};
 
     explicit Opened(MenuId item)
     {
-        QObject::connect(&door, &Dispatch::settled, &frame, [this] { frame.Mirror(bench.sim); });
+        QObject::connect(&door, &Dispatch::settled, &frame, [this] { frame.Mirror(stage.sim); });
         door.Act(WindowId::Main, [item](Simulation& sim) { Choose(sim, item); });
         frame.show();
         frame.activateWindow();
@@ -250,18 +250,17 @@ TEST(UserGuideFrame, ThePaneFollowsTheWindowAndNothingElseMoves)
 TEST(AboutFrame, ControlsAnswerToMouseAndKeys)
 {
     Opened<AboutFrame> about(mnAbout);
-    const auto& platform = about.bench.platform;
+    const auto& platform = about.stage.platform;
     EXPECT_EQ(about.frame.windowTitle(), "About Selvane");
     EXPECT_EQ(about.frame.focusWidget(), about.Find("cmdOK"));
     about.Click("LblWebsite");
     about.Press("Label1", Qt::Key_Return);
     about.Press("Label1", Qt::Key_Space);
-    EXPECT_EQ(platform.opened.size(), 3);
-    EXPECT_TRUE(platform.messages.empty());
+    EXPECT_EQ(platform.Calls(), 3);
+    EXPECT_TRUE(platform.LastCall().starts_with("open mailto:")) << platform.LastCall();
     about.Press("cmdSysInfo", Qt::Key_Return); // the one with the focus, not the default one
     QTest::keyClick(&about.frame, Qt::Key_S, Qt::AltModifier);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return platform.messages.size() == 2; }, 500))
-        << platform.messages.size();
-    EXPECT_TRUE(IsLoaded(about.bench.sim, WindowId::About));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return platform.Calls() == 5; }, 500)) << platform.LastCall();
+    EXPECT_TRUE(IsLoaded(about.stage.sim, WindowId::About));
     EXPECT_EQ(about.frame.minimumSize(), about.frame.maximumSize());
 }

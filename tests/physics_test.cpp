@@ -2,7 +2,7 @@
 // positions and velocities, and the simplified read-outs' distance from the truth.
 
 #include "app/number_text.h"
-#include "bench.h"
+#include "replay/stage.h"
 
 #include <cmath>
 #include <cstdio>
@@ -12,6 +12,8 @@
 
 namespace selvane {
 namespace {
+
+using replay::Stage;
 
 constexpr long double kPi = std::numbers::pi_v<long double>;
 constexpr MenuId kPlanets[] = {mnMercury, mnVenus, mnEarth, mnMars, mnJupiter};
@@ -97,9 +99,9 @@ struct SweptOrbit
 };
 
 // Puts one orbit into the program through the pair whose turn it is, and the satellite into it.
-SweptOrbit Enter(Bench& bench, Draw& draw, int turn)
+SweptOrbit Enter(Stage& stage, Draw& draw, int turn)
 {
-    Simulation& sim = bench.sim;
+    Simulation& sim = stage.sim;
     const long double radius = sim.state.PlanetRadius;
     const std::string near = draw.Near(150, 20000);
     const std::string far = draw.Far(20001, 90000);
@@ -134,10 +136,10 @@ SweptOrbit Enter(Bench& bench, Draw& draw, int turn)
     return {TwoBody(sim.state.PlanetMu, periapsis, apoapsis), (degree - argument + 90 + 720) % 360};
 }
 
-void ExpectExactReadOuts(const Bench& bench, const SweptOrbit& orbit)
+void ExpectExactReadOuts(const Stage& stage, const SweptOrbit& orbit)
 {
     const TwoBody& truth = orbit.truth;
-    const long double planet = bench.sim.state.PlanetRadius;
+    const long double planet = stage.sim.state.PlanetRadius;
     const long double distance = truth.Radius(orbit.anomaly);
     const long double speed = truth.Speed(orbit.anomaly);
     const std::pair<LabelId, std::string> rows[] = {
@@ -155,7 +157,8 @@ void ExpectExactReadOuts(const Bench& bench, const SweptOrbit& orbit)
         {lblKE, "Kinetic = " + Printed(speed * speed / 2, 1)},
         {lblTE, "Total = " + Printed(truth.energy, 1)},
     };
-    for (const auto& [label, caption] : rows) EXPECT_EQ(bench.Caption(label), caption);
+    for (const auto& [label, caption] : rows)
+        EXPECT_EQ(stage.sim.controls.labels[Index(label)].caption, caption);
 }
 
 // How far a simplified read-out stands from the truth over a sweep.
@@ -189,15 +192,14 @@ double HalfTurn(double degrees)
 
 TEST(Physics, ExactReadOutsAgreeWithATwoBodyComputationToTheLastDigit)
 {
-    Bench bench;
-    bench.picSelvane.keeping = false;
+    Stage stage;
     Draw draw(20121);
     for (const MenuId planet : kPlanets) {
-        if (planet != mnEarth) Choose(bench.sim, planet);
+        if (planet != mnEarth) Choose(stage.sim, planet);
         for (int turn = 0; turn < kOrbitsPerPlanet && !HasFailure(); ++turn) {
-            const SweptOrbit orbit = Enter(bench, draw, turn);
-            SCOPED_TRACE(bench.sim.state.PlanetName + ", orbit " + std::to_string(turn));
-            ExpectExactReadOuts(bench, orbit);
+            const SweptOrbit orbit = Enter(stage, draw, turn);
+            SCOPED_TRACE(stage.sim.state.PlanetName + ", orbit " + std::to_string(turn));
+            ExpectExactReadOuts(stage, orbit);
         }
     }
 }
@@ -205,23 +207,22 @@ TEST(Physics, ExactReadOutsAgreeWithATwoBodyComputationToTheLastDigit)
 // A circle whose plane holds the line to the Sun spends 2 asin(R / r) of its turn in the shadow.
 TEST(Physics, EclipseOfACircleAgreesWithTheCylinderToOneSample)
 {
-    Bench bench;
-    bench.picSelvane.keeping = false;
+    Stage stage;
     Draw draw(7);
     for (int turn = 0; turn < 500; ++turn) {
         const std::string altitude = draw.Near(10, 60000);
         const int node = draw.Whole(100, 260); // the sample that counts twice stays in the light
-        const double tilt = bench.sim.state.PlanetTilt;
+        const double tilt = stage.sim.state.PlanetTilt;
         const double inPlane = tilt * std::cos(node * std::numbers::pi / 180);
-        Type(bench.sim, txtIncl, PlainNumber(inPlane));
-        Type(bench.sim, txtRot, std::to_string(node));
-        Type(bench.sim, txtPeriE, altitude);
-        Click(bench.sim, btnECalculate);
-        const long double planet = bench.sim.state.PlanetRadius;
-        const TwoBody truth(bench.sim.state.PlanetMu, planet + std::stold(altitude),
+        Type(stage.sim, txtIncl, PlainNumber(inPlane));
+        Type(stage.sim, txtRot, std::to_string(node));
+        Type(stage.sim, txtPeriE, altitude);
+        Click(stage.sim, btnECalculate);
+        const long double planet = stage.sim.state.PlanetRadius;
+        const TwoBody truth(stage.sim.state.PlanetMu, planet + std::stold(altitude),
                             planet + std::stold(altitude));
         const long double shadow = truth.period * std::asin(planet / truth.periapsis) / kPi;
-        EXPECT_NEAR(bench.sim.state.EclipseSec, static_cast<double>(shadow),
+        EXPECT_NEAR(stage.sim.state.EclipseSec, static_cast<double>(shadow),
                     static_cast<double>(truth.period / 360) * 1.0001)
             << altitude << " km, node " << node;
     }
@@ -229,17 +230,16 @@ TEST(Physics, EclipseOfACircleAgreesWithTheCylinderToOneSample)
 
 TEST(Physics, SimplifiedReadOutsStayWithinWhatTheGuideSays)
 {
-    Bench bench;
-    bench.picSelvane.keeping = false;
+    Stage stage;
     Draw draw(99);
     Distance stepTime, ascension, latitude, latitudeAtNode0;
     for (int turn = 0; turn < 3000; ++turn) {
         const int inclination = draw.Whole(0, 90);
         const int node = turn % 2 == 0 ? 0 : draw.Whole(1, 359);
-        Type(bench.sim, txtIncl, std::to_string(inclination));
-        Type(bench.sim, txtRot, std::to_string(node));
-        const SweptOrbit orbit = Enter(bench, draw, 3 * turn);
-        const SimState& state = bench.sim.state;
+        Type(stage.sim, txtIncl, std::to_string(inclination));
+        Type(stage.sim, txtRot, std::to_string(node));
+        const SweptOrbit orbit = Enter(stage, draw, 3 * turn);
+        const SimState& state = stage.sim.state;
         if (orbit.anomaly < 359) {
             const long double truth =
                 orbit.truth.TimeAt(orbit.anomaly + 1) - orbit.truth.TimeAt(orbit.anomaly);

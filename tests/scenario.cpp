@@ -23,11 +23,12 @@ std::optional<Expectation> ParseExpectation(std::string_view line)
 {
     const std::string_view verb = replay::TakeWord(line);
     const std::size_t equals = line.find('=');
-    if ((verb != "expect" && verb != "near") || equals == std::string_view::npos)
+    const bool drawn = verb == "drawn";
+    if ((verb != "expect" && verb != "near" && !drawn) || equals == std::string_view::npos)
         return std::nullopt;
-    Expectation expectation{std::string(line.substr(0, equals)),
-                            std::string(line.substr(equals + 1)), std::nullopt, std::nullopt};
-    if (verb == "expect") return expectation;
+    Expectation expectation{
+        std::string(line.substr(0, equals)), std::string(line.substr(equals + 1)), {}, {}, drawn};
+    if (verb == "expect" || drawn) return expectation;
     std::string_view numbers = line.substr(equals + 1);
     expectation.number = ParseNumber(replay::TakeWord(numbers));
     expectation.within = ParseNumber(replay::TakeWord(numbers));
@@ -35,8 +36,20 @@ std::optional<Expectation> ParseExpectation(std::string_view line)
     return expectation;
 }
 
+bool SameStroke(std::string_view one, std::string_view other)
+{
+    constexpr double kTwoDecimals = 0.0101;
+    while (!one.empty() && !other.empty()) {
+        const std::string_view word = replay::TakeWord(one), like = replay::TakeWord(other);
+        const std::optional<double> number = ParseNumber(word), near = ParseNumber(like);
+        if (number && near ? std::fabs(*number - *near) > kTwoDecimals : word != like) return false;
+    }
+    return one.empty() == other.empty();
+}
+
 bool Holds(const Expectation& expectation, const std::string& actual)
 {
+    if (expectation.drawn) return SameStroke(expectation.value, actual);
     if (!expectation.number) return actual == expectation.value;
     const std::optional<double> number = ParseNumber(actual);
     return number && std::fabs(*number - *expectation.number) <= *expectation.within;

@@ -13,11 +13,13 @@
 
 namespace selvane {
 
-// "expect KEY=VALUE" as the dump prints it, or "near KEY=NUMBER WITHIN".
+// "expect KEY=VALUE" as the dump prints it, "near KEY=NUMBER WITHIN", or "drawn KEY=STROKE", whose
+// numbers stand with two decimals.
 struct Expectation
 {
     std::string key, value;
-    std::optional<double> number, within; // of "near"
+    std::optional<double> number, within{}; // of "near"
+    bool drawn = false;
 };
 
 struct StoryLine

@@ -2,9 +2,7 @@
 // clock steps over New Year, leap day and the changes of daylight saving. Fails when memory grows
 // by a MiB after the warm-up, or when the last frame is not the one that a fresh start gives for
 // the same state. The long run is `soak 10000000`.
-#include "program/program.h"
-#include "replay/recording_surface.h"
-#include "replay/scripted_platform.h"
+#include "replay/stage.h"
 #include "scene/redraw.h"
 
 #include <cstdio>
@@ -13,6 +11,8 @@
 
 namespace selvane {
 namespace {
+
+using replay::Stage;
 
 constexpr MenuId kDemos[] = {mnGeo, mnMoly, mnES2, mnSunSynch};
 constexpr MenuId kPlanets[] = {mnMars, mnJupiter, mnMercury, mnVenus, mnEarth};
@@ -38,21 +38,6 @@ long ResidentKiB()
         if (line.starts_with("VmRSS:")) return std::atol(line.c_str() + 6);
     return 0;
 }
-
-// The whole program on pictures and a machine of its own.
-struct Stage
-{
-    replay::ScriptedPlatform platform;
-    replay::RecordingSurface picSelvane{kPicSelvane.place.width, kPicSelvane.place.height};
-    replay::RecordingSurface picDemo{kPicDemo.place.width, kPicDemo.place.height};
-    Simulation sim{picSelvane, picDemo, platform, TheWiring()};
-
-    Stage()
-    {
-        Load(sim);
-        FirstShowing(sim);
-    }
-};
 
 // Turns to the next scenario: a planet and one of the four demonstrations or the default orbit,
 // with the clock's tutorial open beside it.

@@ -41,28 +41,17 @@ struct Doer
 
 } // namespace
 
-Player::Player(const LocalTime& time, std::set<std::string, std::less<>> missing)
-    : picSelvane_(kPicSelvane.place.width, kPicSelvane.place.height),
-      picDemo_(kPicDemo.place.width, kPicDemo.place.height),
-      sim_(picSelvane_, picDemo_, platform_, TheWiring())
-{
-    platform_.now = time;
-    platform_.missing = std::move(missing);
-    Load(sim_);
-    FirstShowing(sim_);
-}
-
 Refusal Player::Do(const Action& action)
 {
-    return std::visit(Doer{sim_, platform_}, action);
+    return std::visit(Doer{stage_.sim, stage_.platform}, action);
 }
 
 Dump Player::Take(Calls calls) const
 {
-    Dump dump = RecordsOf(sim_);
-    AddStrokes(dump, kPicSelvane.name, picSelvane_, calls);
-    AddStrokes(dump, kPicDemo.name, picDemo_, calls);
-    AddPlatform(dump, platform_);
+    Dump dump = RecordsOf(stage_.sim);
+    AddStrokes(dump, kPicSelvane.name, stage_.picSelvane, calls);
+    AddStrokes(dump, kPicDemo.name, stage_.picDemo, calls);
+    AddPlatform(dump, stage_.platform);
     return dump;
 }
 

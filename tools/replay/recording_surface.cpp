@@ -4,6 +4,7 @@
 #include "replay/value_text.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace selvane::replay {
 
@@ -40,6 +41,14 @@ bool IsRound(StrokeKind kind)
 }
 
 } // namespace
+
+std::vector<Stroke> RecordingSurface::Of(StrokeKind kind) const
+{
+    std::vector<Stroke> found;
+    std::ranges::copy_if(strokes_, std::back_inserter(found),
+                         [&](const Stroke& stroke) { return stroke.kind == kind; });
+    return found;
+}
 
 std::size_t RecordingSurface::Count(StrokeKind kind) const
 {

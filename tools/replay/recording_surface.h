@@ -33,6 +33,7 @@ public:
     using DrawingSurface::DrawingSurface;
 
     const std::vector<Stroke>& Strokes() const { return strokes_; }
+    std::vector<Stroke> Of(StrokeKind kind) const;
     std::size_t Count(StrokeKind kind) const;
     unsigned Clears() const { return clears_; } // calls of Cls so far
 

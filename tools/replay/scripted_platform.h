@@ -9,7 +9,7 @@
 
 namespace selvane::replay {
 
-class ScriptedPlatform final : public Platform
+class ScriptedPlatform : public Platform
 {
 public:
     LocalTime now{2012, 7, 28, 14, 48, 46};
