@@ -192,12 +192,21 @@ TEST_F(WindowTest, SpaceAndEnterPressAndTheFocusStaysAtItsPlace)
 TEST_F(WindowTest, MenusOpenByKeyAndEveryItemHasAnAccessKey)
 {
     QMenuBar& bar = *shell->Window().menuBar();
-    for (const Qt::Key key : {Qt::Key_F10, Qt::Key_Alt}) {
-        QTest::keyClick(&Field(txtPeri), key);
-        EXPECT_EQ(bar.activeAction(), &Find<QAction>("mnFile")) << key;
-        QTest::keyClick(&bar, Qt::Key_Escape);
-        EXPECT_EQ(bar.activeAction(), nullptr);
-    }
+    const auto press = [](auto key) {
+        QWidget* const menu = QApplication::activePopupWidget();
+        QTest::keyClick(menu ? menu : QApplication::focusWidget(), key);
+    };
+    for (const Qt::Key key : {Qt::Key_F10, Qt::Key_Alt})
+        for (const QAction* const title : bar.actions()) {
+            Field(txtPeri).setFocus();
+            press(key);
+            EXPECT_EQ(bar.activeAction(), &Find<QAction>("mnFile")) << key;
+            press(title->text().at(title->text().indexOf('&') + 1).toLower().toLatin1());
+            EXPECT_EQ(QApplication::activePopupWidget(), title->menu()) << key;
+            for (int each = 0; each < 2; ++each) press(Qt::Key_Escape);
+            EXPECT_EQ(bar.activeAction(), nullptr);
+            EXPECT_EQ(FocusName(), "txtPeri");
+        }
 
     std::map<std::optional<MenuId>, std::set<QChar>> keys;
     for (const MenuRow& row : MenuTable()) {

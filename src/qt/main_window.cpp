@@ -7,7 +7,7 @@
 #include "qt/picture_words.h"
 
 #include <QApplication>
-#include <QEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -74,13 +74,16 @@ void MainWindow::AddShortcuts(Dispatch& door)
         door.Act(WindowId::Main, [](Simulation& sim) { Choose(sim, mnUserGuide); });
     });
     auto* const menu = new QShortcut(QKeySequence(Qt::Key_F10), this);
-    connect(menu, &QShortcut::activated, this, &MainWindow::OpenMenuBar);
+    connect(menu, &QShortcut::activated, this, &MainWindow::ActivateMenuBar);
 }
 
-void MainWindow::OpenMenuBar()
+// As Alt alone does: no menu opens, so that the next letter is an access key of the bar. A menu
+// that is opened, be it the empty first one, would take the letter for one of its own items.
+void MainWindow::ActivateMenuBar()
 {
-    menuBar()->setFocus(Qt::MenuBarFocusReason);
-    menuBar()->setActiveAction(menuBar()->actions().first());
+    QKeyEvent press(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::NoModifier);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+    for (QKeyEvent* const event : {&press, &release}) QCoreApplication::sendEvent(this, event);
 }
 
 void MainWindow::Describe(const Simulation& sim)

@@ -35,7 +35,7 @@ protected:
 private:
     void BuildPanel(Dispatch& door, const Surfaces& surfaces);
     void AddShortcuts(Dispatch& door);
-    void OpenMenuBar();
+    void ActivateMenuBar();
     void ScrollTo(const QWidget& control);
 
     QScrollArea* area_;
