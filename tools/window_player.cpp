@@ -10,8 +10,10 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionSlider>
+#include <QWheelEvent>
 #include <QtTest/QTest>
 #include <algorithm>
 
@@ -22,6 +24,13 @@ namespace {
 void Settle()
 {
     for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+}
+
+void BringToFront(QWidget& window)
+{
+    window.activateWindow();
+    static_cast<void>(QTest::qWaitForWindowActive(&window, 1000));
+    Settle(); // its control with the focus hears of it later
 }
 
 QRect PartOf(const QScrollBar& bar, QStyle::SubControl part)
@@ -44,11 +53,16 @@ void ClickPart(QScrollBar& bar, QStyle::SubControl part)
     QTest::mouseClick(&bar, Qt::LeftButton, {}, PartOf(bar, part).center());
 }
 
+bool HasRoomForAThumb(const QScrollBar& bar)
+{
+    return std::max(bar.width(), bar.height()) >= 60;
+}
+
 // Takes the thumb to an end of the bar and lets it go there. Between the arrows of a short bar is
 // no room for a thumb: there the keys do it.
 void DragToEnd(QScrollBar& bar, bool toMaximum)
 {
-    if (std::max(bar.width(), bar.height()) < 60) {
+    if (!HasRoomForAThumb(bar)) {
         bar.setFocus();
         QTest::keyClick(&bar, toMaximum ? Qt::Key_End : Qt::Key_Home);
         return;
@@ -79,7 +93,7 @@ bool CanBeTyped(const QString& text)
 
 } // namespace
 
-// One action each, done by hand.
+// One action or gesture each, done by hand.
 struct WindowPlayer::Hand
 {
     Shell& shell;
@@ -92,11 +106,28 @@ struct WindowPlayer::Hand
     {
         QWidget* const top = IsActive(window) ? shell.Windows().Widget(window) : nullptr;
         Widget* const control = top ? top->findChild<Widget*>(TextOf(name)) : nullptr;
-        return control && control->isVisible() ? control : nullptr;
+        if (!control || !control->isVisible()) return nullptr;
+        if (auto* const area = top->findChild<QScrollArea*>("area"))
+            area->ensureWidgetVisible(control); // a small window shows a part
+        return control;
     }
     QScrollBar* Reach(ScrollBarId bar) const
     {
         return Reach<QScrollBar>(WindowId::Main, ScrollBarTable()[Index(bar)].name);
+    }
+    // The field, with the focus and all of its text marked, if the user can get at it.
+    QLineEdit* Marked(FieldId id) const
+    {
+        auto* const field = Reach<QLineEdit>(WindowId::Main, FieldTable()[Index(id)].name);
+        if (!field) return nullptr;
+        QTest::mouseDClick(field, Qt::LeftButton);
+        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
+        return field;
+    }
+    static void Paste(QLineEdit& field, const QString& text)
+    {
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
     }
     void Press(WindowId window, std::string_view name) const
     {
@@ -137,18 +168,14 @@ struct WindowPlayer::Hand
 
     void operator()(const replay::TypeText& act) const
     {
-        auto* const field = Reach<QLineEdit>(WindowId::Main, FieldTable()[Index(act.field)].name);
-        if (!field) return;
         const QString text = QString::fromStdString(act.text);
-        QTest::mouseDClick(field, Qt::LeftButton);
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClick(field, Qt::Key_Delete);
-        if (CanBeTyped(text)) {
-            QTest::keyClicks(field, text);
-            return;
+        if (QLineEdit* const field = Marked(act.field)) {
+            QTest::keyClick(field, Qt::Key_Delete);
+            if (CanBeTyped(text))
+                QTest::keyClicks(field, text);
+            else
+                Paste(*field, text);
         }
-        QApplication::clipboard()->setText(text);
-        QTest::keyClick(field, Qt::Key_V, Qt::ControlModifier);
     }
 
     void operator()(const replay::ButtonClick& act) const
@@ -165,6 +192,8 @@ struct WindowPlayer::Hand
         };
         QAction* const title = action(MenuTable()[Index(*row.under)].name);
         QMenuBar* const bar = shell.Window().menuBar();
+        if (!bar->rect().contains(bar->actionGeometry(title))) // a small window hides it
+            shell.Window().resize(bar->sizeHint().width(), shell.Window().height());
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(title).center());
         QMenu* const menu = title->menu();
         QTest::mouseClick(menu, Qt::LeftButton, {},
@@ -179,10 +208,7 @@ struct WindowPlayer::Hand
 
     void operator()(const replay::Activation& act) const
     {
-        if (QWidget* const window = shell.Windows().Widget(act.window)) {
-            window->activateWindow();
-            static_cast<void>(QTest::qWaitForWindowActive(window, 1000));
-        }
+        if (QWidget* const window = shell.Windows().Widget(act.window)) BringToFront(*window);
     }
 
     void operator()(const replay::Closing& act) const
@@ -209,19 +235,96 @@ struct WindowPlayer::Hand
     }
 };
 
+// Each says which action it comes to.
+struct WindowPlayer::GestureHand
+{
+    Hand hand;
+    using Meaning = std::optional<replay::Action>;
+
+    Meaning operator()(const replay::Action& act) const
+    {
+        std::visit(hand, act);
+        return act;
+    }
+
+    Meaning operator()(const WheelTurn& turn) const
+    {
+        QScrollBar* const bar = hand.Reach(turn.bar);
+        if (!bar) return std::nullopt;
+        bar->setFocus();
+        if (!bar->hasFocus()) BringToFront(*bar->window());
+        const int goal = bar->value() - turn.notches * bar->singleStep();
+        const QPointF place = bar->rect().center();
+        QWheelEvent event(place, bar->mapToGlobal(place), {},
+                          {0, turn.notches * QWheelEvent::DefaultDeltasPerStep}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(bar, &event);
+        return replay::ScrollTo{turn.bar, goal};
+    }
+
+    Meaning operator()(const ThumbDrag& drag) const
+    {
+        QScrollBar* const bar = hand.Reach(drag.bar);
+        if (!bar || !HasRoomForAThumb(*bar)) return std::nullopt;
+        const QPoint thumb = PartOf(*bar, QStyle::SC_ScrollBarSlider).center();
+        const bool across = bar->orientation() == Qt::Horizontal;
+        QTest::mousePress(bar, Qt::LeftButton, {}, thumb);
+        QPoint goal = thumb;
+        for (const int part : {3, 2, 1}) {
+            goal = thumb + (across ? QPoint(drag.pixels, 0) : QPoint(0, drag.pixels)) / part;
+            QTest::mouseMove(bar, goal);
+        }
+        const int let = bar->sliderPosition();
+        QTest::mouseRelease(bar, Qt::LeftButton, {}, goal);
+        return replay::ScrollTo{drag.bar, let};
+    }
+
+    Meaning operator()(const Pasting& act) const
+    {
+        QLineEdit* const field = hand.Marked(act.field);
+        if (!field) return std::nullopt;
+        Hand::Paste(*field, QString::fromStdString(act.text));
+        return replay::TypeText{act.field, act.text};
+    }
+
+    Meaning operator()(const Resizing& act) const
+    {
+        hand.shell.Window().resize(act.width, act.height);
+        return std::nullopt;
+    }
+
+    Meaning operator()(const Leaving&) const
+    {
+        QWidget other;
+        other.show();
+        BringToFront(other);
+        BringToFront(*hand.shell.Windows().Widget(hand.shell.Sim().windows.order.back()));
+        return std::nullopt;
+    }
+};
+
 WindowPlayer::WindowPlayer() : shell_(platform_)
 {
     shell_.Clockwork().StandStill();
+    for (QObject* const object : shell_.Window().findChildren<QObject*>())
+        named_.emplace(object->objectName().toStdString(), object);
     shell_.Show();
-    static_cast<void>(QTest::qWaitForWindowActive(&shell_.Window(), 1000));
+    BringToFront(shell_.Window());
     Settle();
 }
 
-void WindowPlayer::Do(const replay::Action& action)
+template <typename Object> Object* WindowPlayer::Find(std::string_view name) const
 {
-    if (!shell_.Sim().windows.running) return;
-    std::visit(Hand{shell_, platform_}, action);
+    const auto found = named_.find(name);
+    return found == named_.end() ? nullptr : qobject_cast<Object*>(found->second);
+}
+
+std::optional<replay::Action> WindowPlayer::Do(const Gesture& gesture)
+{
+    if (!shell_.Sim().windows.running) return std::nullopt;
+    const auto meaning = std::visit(GestureHand{{shell_, platform_}}, gesture);
     Settle();
+    return meaning;
 }
 
 replay::Dump WindowPlayer::Take() const
@@ -231,18 +334,16 @@ replay::Dump WindowPlayer::Take() const
     return dump;
 }
 
-std::string WindowPlayer::Disagreement()
+std::string WindowPlayer::Disagreement(const Simulation& sim)
 {
-    const Simulation& sim = shell_.Sim();
     if (!sim.windows.running) return "";
-    MainWindow& window = shell_.Window();
-    const auto shown = [&window](std::string_view name, bool visible) {
-        const auto* const control = window.findChild<QWidget*>(TextOf(name));
+    const auto shown = [this](std::string_view name, bool visible) {
+        const auto* const control = Find<QWidget>(name);
         return control && control->isHidden() != visible;
     };
     for (const ScrollBarRow& row : ScrollBarTable()) {
         const ScrollBar& record = sim.controls.scrollBars[Index(row.id)];
-        const auto* const bar = window.findChild<QScrollBar*>(TextOf(row.name));
+        const auto* const bar = Find<QScrollBar>(row.name);
         if (bar->value() != record.value || bar->minimum() != record.min ||
             bar->maximum() != record.max || bar->singleStep() != record.smallChange ||
             bar->pageStep() != record.largeChange || !shown(row.name, record.visible))
@@ -250,7 +351,7 @@ std::string WindowPlayer::Disagreement()
     }
     for (const FieldRow& row : FieldTable()) {
         const NumberField& record = sim.controls.fields[Index(row.id)];
-        const auto* const field = window.findChild<QLineEdit*>(TextOf(row.name));
+        const auto* const field = Find<QLineEdit>(row.name);
         if (field->text().toStdString() != record.text || !shown(row.name, record.visible))
             return std::string(row.name);
     }
@@ -259,15 +360,17 @@ std::string WindowPlayer::Disagreement()
             return std::string(row.name);
     for (const LabelRow& row : LabelTable()) {
         const Label& record = sim.controls.labels[Index(row.id)];
-        const auto* const label = window.findChild<QWidget*>(TextOf(row.name));
+        const auto* const label = Find<QWidget>(row.name);
         if (label->property("text").toString().toStdString() != record.caption ||
             label->toolTip().toStdString() != record.toolTip || !shown(row.name, record.visible))
             return std::string(row.name);
     }
     for (const MenuRow& row : MenuTable())
-        if (row.checkable && window.findChild<QAction*>(TextOf(row.name))->isChecked() !=
-                                 sim.controls.menu[Index(row.id)].checked)
+        if (row.checkable &&
+            Find<QAction>(row.name)->isChecked() != sim.controls.menu[Index(row.id)].checked)
             return std::string(row.name);
+    if (Find<QWidget>("panel")->size() != QSize(kClientWidth, kClientHeight))
+        return "the layout's size";
     for (const WindowId each : {WindowId::UserGuide, WindowId::About})
         if (IsLoaded(sim, each) != (shell_.Windows().Widget(each) != nullptr))
             return "a window that should or should not be there";
