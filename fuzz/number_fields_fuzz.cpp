@@ -3,12 +3,12 @@
 #include "app/control_table.h"
 #include "app/number_text.h"
 #include "replay/invariants.h"
+#include "require.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <string_view>
@@ -20,13 +20,6 @@ using namespace selvane::replay;
 
 constexpr int kMostTexts = 16;
 constexpr ButtonId kPressed[] = {btnApsisCalculate, btnECalculate, btnAxisCalculate, btnAdvance};
-
-void Require(bool condition, std::string_view what)
-{
-    if (condition) return;
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(what.size()), what.data());
-    std::abort();
-}
 
 bool IsPlain(std::string_view text)
 {

@@ -2,28 +2,21 @@
 // what must always hold holds, and the dump can be taken.
 #include "replay/invariants.h"
 #include "replay/replay.h"
+#include "require.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <sstream>
 #include <string>
 #include <string_view>
 
 namespace {
 
+using namespace selvane;
 using namespace selvane::replay;
 
 constexpr int kMostActions = 60;
-
-void Require(bool condition, std::string_view what)
-{
-    if (condition) return;
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(what.size()), what.data());
-    std::abort();
-}
 
 // All lines that are actions, up to so many.
 std::string PlayLines(std::string_view rest)

@@ -1,19 +1,14 @@
 // libFuzzer target: any bytes give the reader's document or error, and nothing worse.
+#include "require.h"
 #include "rich_text/reader.h"
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
 namespace {
 
 using namespace selvane;
-
-void Require(bool condition)
-{
-    if (!condition) std::abort();
-}
 
 bool IsUtf8Boundary(std::string_view text, std::size_t at)
 {

@@ -2,7 +2,8 @@
 // as the same actions without a screen, and the screen shows it. A run that fails shrinks itself to
 // a short script.
 //
-// QT_QPA_PLATFORM=offscreen SELVANE_MONKEY_ACTIONS=100000 window_tests --gtest_filter='WindowMonkey.*'
+// QT_QPA_PLATFORM=offscreen SELVANE_MONKEY_ACTIONS=100000 window_tests
+// --gtest_filter='WindowMonkey.*'
 #include "replay/player.h"
 #include "replay/trial.h"
 #include "window_player.h"
