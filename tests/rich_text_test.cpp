@@ -85,6 +85,7 @@ TEST(RichTextSyntax, WordsSymbolsAndTheirDelimiters)
         {R"(\emspace\enspace\qmspace\zwj\zwnj\ltrmark\rtlmark x)",
          "\u2003\u2002\u2005\u200D\u200C\u200E\u200Fx"},
         {R"(a{\*\unknown b{c}d}e{\unknown f}g\*\b h)", "aefgh"},
+        {R"(x{\*{\unknown a}b}y)", "xaby"},
         {R"(a\bin3 }}}b{\*\gone\bin2 {{}c\bin-5 d)", "abcd"},
     });
     EXPECT_EQ(Text(std::string("a\0b\\'00c\\u0 ?d", 14)), "abcd");
@@ -114,6 +115,7 @@ TEST(RichTextCharacters, CodePagesOfDocumentAndFont)
         {R"(\ansi\ansicpg950)", R"(\'a7\'41)", "你"},
         {R"(\ansi\ansicpg1361)", R"(\'88\'61)", "가"},
         {R"(\ansi\ansicpg932)", R"(\'82 x\'82}{y\'ff)", " xy"},
+        {R"(\ansi\ansicpg932)", R"(\'82{\'b1})", "ｱ"},
     };
     for (const auto& c : cases) {
         const std::string whole = std::string("{\\rtf1") + c.header + "{" + c.bytes + "}}";
@@ -130,6 +132,36 @@ TEST(RichTextCharacters, CodePagesOfDocumentAndFont)
     const std::string flat = R"({\rtf1{\fonttbl\f0\fcharset0 A;\f1\fcharset238 B;}\f1\'b3})";
     EXPECT_EQ(PlainText(ReadWhole(flat).blocks), "ł\n");
     EXPECT_EQ(ReadWhole(flat).fonts, (std::map<std::int32_t, std::string>{{0, "A"}, {1, "B"}}));
+}
+
+TEST(RichTextCharacters, CharacterSetsOfFonts)
+{
+    const struct
+    {
+        int characterSet;
+        const char* bytes;
+        const char* text;
+    } cases[] = {
+        // clang-format off
+        {0, R"(\'e9)", "é"}, {77, R"(\'8e)", "é"}, {78, R"(\'82\'a0)", "あ"},
+        {79, R"(\'b0\'a1)", "가"}, {80, R"(\'c4\'e3)", "你"}, {81, R"(\'a7\'41)", "你"},
+        {85, R"(\'e1)", "α"}, {86, R"(\'dd)", "ı"}, {87, R"(\'a1)", "ก"}, {88, R"(\'88)", "ą"},
+        {89, R"(\'8f)", "П"}, {128, R"(\'82\'a2)", "い"}, {129, R"(\'b3\'aa)", "나"},
+        {130, R"(\'88\'61)", "가"}, {134, R"(\'ba\'c3)", "好"}, {136, R"(\'a6\'6e)", "好"},
+        {161, R"(\'e1)", "α"}, {162, R"(\'fe)", "ş"}, {163, R"(\'f0)", "đ"},
+        {177, R"(\'e0)", "א"}, {178, R"(\'c8)", "ب"}, {186, R"(\'e0)", "ą"},
+        {204, R"(\'cf)", "П"}, {222, R"(\'a2)", "ข"}, {238, R"(\'b3)", "ł"},
+        {254, R"(\'82)", "é"}, {255, R"(\'d0)", "ð"}
+        // clang-format on
+    };
+    std::string fonts = "{\\rtf1\\ansi\\ansicpg1250{\\fonttbl", body, text;
+    for (const auto& c : cases) {
+        const std::string number = std::to_string(c.characterSet);
+        fonts += "{\\f" + number + "\\fcharset" + number + " A;}";
+        body += "{\\f" + number + c.bytes + "}";
+        text += c.text;
+    }
+    EXPECT_EQ(PlainText(ReadWhole(fonts + '}' + body + '}').blocks), text + '\n');
 }
 
 // Each byte of each page gives valid text, and plain characters are the same in all.
@@ -284,6 +316,7 @@ TEST(RichTextFormat, ParagraphsTakeWhatHoldsAtTheirEnd)
     for (std::size_t i = 3; i < 8; ++i)
         levels += std::to_string(ParagraphAt(document, i).format.headingLevel);
     EXPECT_EQ(levels, "21060");
+    EXPECT_EQ(ParagraphAt(Read(Repeat("\\tx9", 99) + "a\\par"), 0).format.tabStops.size(), 32u);
 }
 
 std::string Labels(const RichText& document)
@@ -302,12 +335,13 @@ TEST(RichTextLists, StoredLabelsWinOverWorkedOutOnes)
         R"({\*\listtable{\list{\listlevel\levelnfc0\levelstartat3{\leveltext\'02\'00.;}{\levelnumbers\'01;}})"
         R"({\listlevel\levelnfc4\levelstartat1{\leveltext\'04\'00.\'01);}}{\listlevel\levelnfc2{\leveltext\'01\'02;}})"
         R"({\listlevel\levelnfc23{\leveltext\'01\u-3913 ?;}}{\listlevel\levelnfc255{\leveltext\'00;}}\listid5}})"
-        R"({\*\listoverridetable{\listoverride\listid5\ls1}{\listoverride\listid5{\lfolevel\listoverridestartat\levelstartat7}\ls2}})";
+        R"({\*\listoverridetable{\listoverride\listid5\ls1}{\listoverride\listid5{\lfolevel\listoverridestartat\levelstartat7}\ls2}{\listoverride\listid5\ls3}})";
     EXPECT_EQ(
         Labels(Read(table + R"(\ls1 a\par b\par\ilvl1 c\par d\par\ilvl2 e\par\ilvl3 f\par)"
                             R"(\ilvl0{\listtext\f0 9)\tab}g\par h\par\ilvl1 i\par\ilvl4 j\par)"
                             R"(\pard k\par\ls9 l\par\pard\ls2\ilvl44 m\par\ilvl0 n\par)")),
         "0 3.|0 4.|1 4.a)|1 4.b)|2 i|3 •|0 9)|0 6.|1 6.a)|-|-|-|-|0 11.|");
+    EXPECT_EQ(Labels(Read(table + R"(\ls3\ilvl1 a\par\pard\ls3 b\par)")), "1 3.a)|0 3.|");
 }
 
 TEST(RichTextLists, OldListsStandWithTheirParagraphs)
@@ -380,6 +414,7 @@ TEST(RichTextTables, ShapesOfOddAndNestedOnes)
          "[<[<[<a;>/]b;>/]c;>/]"},
         {R"(\itap40 a\nestcell\nestrow\itap1 b\cell\row)", "[<a;b;>/]"},
         {R"(\nestcell\nestrow\row x)", "[<[<;>/]>/]x;"},
+        {R"(\itap1 a\nestcell b\cell\row)", "[<[<a;>/]b;>/]"},
     };
     for (const Case& c : cases) EXPECT_EQ(Shape(Read(c.body).blocks), c.text) << c.body;
     const RichText wide =
@@ -389,11 +424,11 @@ TEST(RichTextTables, ShapesOfOddAndNestedOnes)
     EXPECT_EQ(row.cells.back().blocks.size(), 36u);
 }
 
-const std::string kPngHex = "89504e470d0a1a0a0000000d49484452 0000000300000002\n0806000000";
+const std::string kPngHex = "89504e470d0a1a0a0000000d49484452 0000000300000001\n0806000000";
 
 TEST(RichTextPictures, DataKindAndSize)
 {
-    const std::string jpeg("\xFF\xD8\xFF\xE0\0\4ab\xFF\xC0\0\x11\x08\0\5\0\7\1", 18);
+    const std::string jpeg("\xFF\xD8\xFF\xE0\0\4ab\xFF\xC0\0\x11\x08\0\5\0\1\1", 18);
     const RichText document =
         Read("a{\\*\\shppict{\\pict{\\*\\picprop{\\sp{\\sn a}{\\sv 7}}}\\picwgoal300\\picscalex50"
              "\\pngblip " +
@@ -405,7 +440,7 @@ TEST(RichTextPictures, DataKindAndSize)
         seen += std::to_string(static_cast<int>(p.kind)) + ' ' + std::to_string(p.widthPixels) +
                 'x' + std::to_string(p.heightPixels) + ' ' + std::to_string(p.widthTwips) + 'x' +
                 std::to_string(p.heightTwips) + '|';
-    EXPECT_EQ(seen, "1 3x2 150x30|2 7x5 105x75|0 0x0 30x45|1 3x2 45x30|");
+    EXPECT_EQ(seen, "1 3x1 150x15|2 1x5 15x75|0 0x0 30x45|1 3x1 45x15|");
     EXPECT_EQ(document.pictures.at(0).bytes.size(), 29u);
     EXPECT_EQ(document.pictures.at(1).bytes, jpeg);
     EXPECT_EQ(ParagraphAt(document, 0).runs.at(1).picture, 0);
@@ -431,7 +466,8 @@ TEST(RichTextDamage, WhatIsNoRichTextIsRefused)
     for (const char* bytes : {"", "plain", "<html>", "\x89PNG", "PK\3\4", "%PDF", "{\\rtb1 x}",
                               "\\rtf1 {x}", "x{\\rtf1 x}", "\xFF\xFE{\\rtf1 x}"})
         EXPECT_EQ(Refusal(bytes), RichTextError::NotRichText) << bytes;
-    EXPECT_EQ(PlainText(ReadWhole("\xEF\xBB\xBF \r\n{\\rtf x}").blocks), "x\n");
+    for (const char* start : {"\xEF\xBB\xBF", "\xEF\xBB\xBF \r\n"})
+        EXPECT_EQ(PlainText(ReadWhole(std::string(start) + "{\\rtf x}").blocks), "x\n");
     for (const char* bytes :
          {"{\\rtf1", "{\\rtf1\\ansi{\\fonttbl{\\f0 Ar", "{\\rtf1{\\*\\pn{\\info{\\title a}"})
         EXPECT_EQ(Refusal(bytes), RichTextError::NothingReadable) << bytes;
