@@ -1,5 +1,6 @@
 // libFuzzer target: whatever is typed into the fields, the program comes to its end and shows
-// numbers only. A line is one text; its first sign chooses the field, and what is pressed then.
+// numbers only. A line is one text; its first sign chooses the field, and what is pressed then. A
+// text without a line's end is only read, which is a thousand times as fast.
 #include "app/control_table.h"
 #include "app/number_text.h"
 #include "replay/invariants.h"
@@ -27,18 +28,22 @@ bool IsPlain(std::string_view text)
 }
 
 // The C library reads the same where no sign begins one of its other notations.
-bool IsReadByTheLibraryToo(std::string_view text, double number)
+void CheckAgainstTheLibrary(const std::string& text)
 {
-    if (text.find_first_not_of("+-.0123456789eE") != std::string_view::npos) return true;
-    const double other = std::strtod(std::string(text).c_str(), nullptr);
-    return number == (std::isfinite(other) ? other : 0);
+    if (text.empty() || text.find_first_not_of("+-.0123456789eE") != std::string::npos) return;
+    char* end = nullptr;
+    const double other = std::strtod(text.c_str(), &end);
+    const bool finite = std::isfinite(other);
+    const bool whole = finite && *end == 0 && end != text.c_str();
+    Require(PrefixNumber(text) == (finite ? other : 0), "a prefix that is another number");
+    Require(WholeNumberText(text).has_value() == whole, "a whole text is a number, or is none");
 }
 
 void CheckNumberText(std::string_view text)
 {
     const double number = PrefixNumber(text);
     Require(std::isfinite(number), "a prefix that is no number");
-    Require(IsReadByTheLibraryToo(text, number), "a prefix that is another number");
+    CheckAgainstTheLibrary(std::string(text));
     if (const auto whole = WholeNumberText(text))
         Require(*whole == number, "the whole text and its prefix differ");
     const std::string plain = PlainNumber(number);
@@ -65,6 +70,8 @@ void TypeAndPress(Player& player, std::string_view line)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     std::string_view rest(reinterpret_cast<const char*>(data), size);
+    CheckNumberText(rest);
+    if (rest.find('\n') == std::string_view::npos) return 0;
     Player player;
     for (int each = 0; each < kMostTexts && !rest.empty(); ++each) {
         const std::string_view line = rest.substr(0, rest.find('\n'));

@@ -52,13 +52,19 @@ std::size_t ExponentEnd(std::string_view text, std::size_t at)
     return end > digits ? end : at;
 }
 
-// What std::from_chars calls out of range is too large or too small; only the first overflows.
+// What std::from_chars calls out of range is too large or too small; only the first overflows. The
+// place of the first digit that counts and the exponent tell together which.
 bool IsTooSmall(std::string_view number)
 {
-    const std::size_t exponent = number.find_first_of("eE");
-    if (exponent != std::string_view::npos && exponent + 1 < number.size())
-        return number[exponent + 1] == '-';
-    return number.find_first_of("123456789") > number.find('.');
+    const std::size_t mantissa = std::min(number.find_first_of("eE"), number.size());
+    const std::size_t point = std::min(number.find('.'), mantissa);
+    const std::size_t first = std::min(number.find_first_of("123456789"), mantissa);
+    std::string_view power = number.substr(std::min(mantissa + 1, number.size()));
+    if (power.starts_with('+')) power.remove_prefix(1);
+    long long exponent = 0;
+    const auto read = std::from_chars(power.data(), power.data() + power.size(), exponent);
+    if (read.ec == std::errc::result_out_of_range) return power.starts_with('-');
+    return exponent < static_cast<long long>(first) - static_cast<long long>(point);
 }
 
 NumericPrefix ReadPrefix(std::string_view text)
