@@ -199,8 +199,10 @@ TEST_F(WindowTest, MenusOpenByKeyAndEveryItemHasAnAccessKey)
     for (const Qt::Key key : {Qt::Key_F10, Qt::Key_Alt})
         for (const QAction* const title : bar.actions()) {
             Field(txtPeri).setFocus();
+            const QImage usual = bar.grab().toImage();
             press(key);
             EXPECT_EQ(bar.activeAction(), &Find<QAction>("mnFile")) << key;
+            EXPECT_NE(bar.grab().toImage(), usual) << "the title is marked, though no menu is open";
             press(title->text().at(title->text().indexOf('&') + 1).toLower().toLatin1());
             EXPECT_EQ(QApplication::activePopupWidget(), title->menu()) << key;
             for (int each = 0; each < 2; ++each) press(Qt::Key_Escape);

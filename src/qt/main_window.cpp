@@ -3,6 +3,7 @@
 #include "program/program.h"
 #include "qt/appearance.h"
 #include "qt/dispatch.h"
+#include "qt/menus.h"
 #include "qt/picture_widget.h"
 #include "qt/picture_words.h"
 
@@ -32,6 +33,7 @@ MainWindow::MainWindow(Dispatch& door, const Surfaces& surfaces) : area_(new QSc
 {
     setObjectName(TextOf(kApplicationTitle));
     setWindowTitle(TextOf(kApplicationTitle));
+    setMenuBar(new MenuBar);
     menuBar()->setNativeMenuBar(false);
     setContextMenuPolicy(Qt::NoContextMenu);
     BuildPanel(door, surfaces);

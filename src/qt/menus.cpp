@@ -6,7 +6,7 @@
 
 #include <QAction>
 #include <QMenu>
-#include <QMenuBar>
+#include <QStyleOption>
 #include <map>
 #include <optional>
 
@@ -40,6 +40,12 @@ QAction* AddItem(QMenu& menu, const MenuRow& row, const QString& text, Dispatch&
 }
 
 } // namespace
+
+void MenuBar::initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const
+{
+    QMenuBar::initStyleOption(option, action);
+    if (hasFocus() && action == activeAction()) option->state |= QStyle::State_Sunken;
+}
 
 std::array<QAction*, kMenuCount> BuildMenus(QMenuBar& bar, Dispatch& door)
 {
