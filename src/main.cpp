@@ -1,5 +1,6 @@
 // Selvane: the entry point.
 #include "qt/appearance.h"
+#include "qt/fonts_ahead.h"
 #include "qt/qt_platform.h"
 #include "qt/shell.h"
 
@@ -23,11 +24,13 @@ int main(int argc, char** argv)
 {
     tellAsUsual = qInstallMessageHandler(TellButThat);
     selvane::PrepareApplication();
+    selvane::FontsAhead fonts;
     QApplication application(argc, argv);
     selvane::SetUpApplication(application);
     selvane::ChooseWorkingFolder();
     selvane::QtPlatform platform;
-    selvane::Shell shell(platform);
+    fonts.Wait();
+    selvane::Shell shell(platform, selvane::Shell::Opens::PictureFirst);
     shell.Show();
     return QApplication::exec();
 }

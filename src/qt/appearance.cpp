@@ -1,11 +1,10 @@
 #include "qt/appearance.h"
 
-#include "qt/application_icon.h"
+#include "qt/quick_style.h"
 
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
-#include <QStyleFactory>
 #include <QToolTip>
 #include <clocale>
 
@@ -67,10 +66,9 @@ void SetUpApplication(QApplication& application)
     application.setApplicationName("selvane");
     application.setDesktopFileName("org.example.selvane");
     application.setLayoutDirection(Qt::LeftToRight);
-    application.setStyle(QStyleFactory::create("Fusion"));
+    application.setStyle(new QuickStyle);
     application.setPalette(LightPalette());
     application.setFont(FontOf(kTextPoints));
-    application.setWindowIcon(ApplicationIcon());
     QApplication::setCursorFlashTime(0); // a caret that blinks keeps a program at rest awake
     QToolTip::setPalette(LightPalette());
     QToolTip::setFont(FontOf(kTextPoints));

@@ -1,6 +1,7 @@
 #include "qt/application_icon.h"
 
 #include <QDir>
+#include <QPixmap>
 
 // The resource may stand in a library; the toolkit wants this call outside every namespace.
 static void LoadResource()
@@ -14,7 +15,9 @@ QIcon ApplicationIcon()
 {
     LoadResource();
     QIcon icon;
-    for (const QString& file : QDir(":/icons").entryList()) icon.addFile(":/icons/" + file);
+    // Finding out that a file is what its name says would load all decoders of the machine.
+    for (const QString& file : QDir(":/icons").entryList())
+        icon.addPixmap(QPixmap(":/icons/" + file, "PNG"));
     return icon;
 }
 

@@ -35,13 +35,19 @@ constexpr std::string_view kReadingOrder[] = {
 class ControlBuilder
 {
 public:
-    ControlBuilder(QWidget& panel, Dispatch& door) : panel_(panel), door_(door) {}
+    ControlBuilder(ControlWidgets& to, QWidget& panel, Dispatch& door)
+        : widgets_(to), panel_(panel), door_(door)
+    {}
 
     // From the bottom of the pile to its top.
-    void Build(const Surfaces& surfaces)
+    void BuildPictures(const Surfaces& surfaces)
     {
         for (const FrameRow& row : FrameTable()) AddFrame(row);
         AddPictures(surfaces);
+    }
+
+    void BuildControls()
+    {
         for (const LabelRow& row : LabelTable()) AddLabel(row);
         AddMarker();
         for (const ScrollBarRow& row : ScrollBarTable()) AddBar(row);
@@ -51,8 +57,6 @@ public:
         TellCovered();
         OrderTabs();
     }
-
-    ControlWidgets widgets;
 
 private:
     template <typename Row> void Place(QWidget& widget, const Row& row)
@@ -75,15 +79,15 @@ private:
 
     void AddPictures(const Surfaces& surfaces)
     {
-        widgets.picSelvane = new PictureWidget(surfaces.picSelvane, kPicSelvane, &panel_);
-        widgets.picSelvane->setAccessibleName("Orbit");
-        widgets.picDemo = new PictureWidget(surfaces.picDemo, kPicDemo, &panel_);
-        widgets.picDemo->setAccessibleName("Tutorial picture");
+        widgets_.picSelvane = new PictureWidget(surfaces.picSelvane, kPicSelvane, &panel_);
+        widgets_.picSelvane->setAccessibleName("Orbit");
+        widgets_.picDemo = new PictureWidget(surfaces.picDemo, kPicDemo, &panel_);
+        widgets_.picDemo->setAccessibleName("Tutorial picture");
     }
 
     void AddLabel(const LabelRow& row)
     {
-        LabelWidget& label = widgets.labels[Index(row.id)];
+        LabelWidget& label = widgets_.labels[Index(row.id)];
         if (door_.Sim().wiring.label[Index(row.id)]) {
             label.link = new LinkLabel(TextOf(row.caption), row.place, &panel_);
             QObject::connect(
@@ -91,7 +95,7 @@ private:
                     door->Act(WindowId::Main, [id](Simulation& sim) { ClickLabel(sim, id); });
                 });
         } else {
-            QWidget& parent = row.id == lblPlanet ? *widgets.picSelvane : panel_;
+            QWidget& parent = row.id == lblPlanet ? *widgets_.picSelvane : panel_;
             label.caption = new CaptionLabel(row, &parent);
         }
         label.Widget()->setObjectName(TextOf(row.name));
@@ -102,12 +106,12 @@ private:
 
     void AddMarker()
     {
-        widgets.lblSat = new QWidget(widgets.picSelvane);
-        widgets.lblSat->setObjectName("lblSat");
-        widgets.lblSat->setAccessibleName("Satellite");
-        widgets.lblSat->resize(kMarkerSize, kMarkerSize);
-        widgets.lblSat->setAutoFillBackground(true);
-        widgets.lblSat->hide();
+        widgets_.lblSat = new QWidget(widgets_.picSelvane);
+        widgets_.lblSat->setObjectName("lblSat");
+        widgets_.lblSat->setAccessibleName("Satellite");
+        widgets_.lblSat->resize(kMarkerSize, kMarkerSize);
+        widgets_.lblSat->setAutoFillBackground(true);
+        widgets_.lblSat->hide();
     }
 
     void AddBar(const ScrollBarRow& row)
@@ -115,7 +119,7 @@ private:
         const auto direction =
             row.direction == Direction::Horizontal ? Qt::Horizontal : Qt::Vertical;
         auto* const bar = new ValueBar(direction, &panel_);
-        widgets.bars[Index(row.id)] = bar;
+        widgets_.bars[Index(row.id)] = bar;
         Place(*bar, row);
         bar->setRange(row.min, row.max);
         bar->setSingleStep(row.smallChange);
@@ -134,14 +138,14 @@ private:
     void AddField(const FieldRow& row)
     {
         auto* const field = new NumberLine(&panel_);
-        widgets.fields[Index(row.id)] = field;
+        widgets_.fields[Index(row.id)] = field;
         Place(*field, row);
         field->setText(TextOf(row.text));
         const ScrollBarRow& bar = ScrollBarTable()[Index(row.bar)];
         const LabelRow& caption = LabelTable()[Index(bar.caption)];
         field->setAccessibleName(SpokenNameOf(bar, caption.caption));
         field->SetPurpose(TextOf(caption.toolTip));
-        widgets.labels[Index(bar.caption)].caption->setBuddy(field);
+        widgets_.labels[Index(bar.caption)].caption->setBuddy(field);
         // Assistive technology changes a text without editing it.
         QObject::connect(field, &QLineEdit::textChanged, &door_,
                          [door = &door_, id = row.id, field](const QString& text) {
@@ -156,7 +160,7 @@ private:
     void AddButton(const ButtonRow& row)
     {
         auto* const button = new FaceButton(row, &panel_);
-        widgets.buttons[Index(row.id)] = button;
+        widgets_.buttons[Index(row.id)] = button;
         Place(*button, row);
         button->setVisible(row.visible);
         QObject::connect(button, &QAbstractButton::clicked, &door_, [door = &door_, id = row.id] {
@@ -167,7 +171,7 @@ private:
     void AddHelpPane()
     {
         auto* const pane = new HelpPaneWidget(&panel_);
-        widgets.txtHelp = pane;
+        widgets_.txtHelp = pane;
         pane->setObjectName("txtHelp");
         pane->setGeometry(RectOf(kHelpPane));
         pane->setAccessibleName("Explanation");
@@ -188,13 +192,13 @@ private:
 
     void TellCovered()
     {
-        const QRect picture = widgets.picSelvane->geometry();
+        const QRect picture = widgets_.picSelvane->geometry();
         QRegion covered;
-        for (const QWidget* over : {static_cast<QWidget*>(widgets.bars[Index(sclLR)]),
-                                    static_cast<QWidget*>(widgets.bars[Index(sclUD)]),
-                                    static_cast<QWidget*>(widgets.buttons[Index(Command1)])})
+        for (const QWidget* over : {static_cast<QWidget*>(widgets_.bars[Index(sclLR)]),
+                                    static_cast<QWidget*>(widgets_.bars[Index(sclUD)]),
+                                    static_cast<QWidget*>(widgets_.buttons[Index(Command1)])})
             covered += over->geometry().translated(-picture.topLeft());
-        widgets.picSelvane->SetCovered(covered);
+        widgets_.picSelvane->SetCovered(covered);
     }
 
     void OrderTabs()
@@ -207,6 +211,7 @@ private:
         }
     }
 
+    ControlWidgets& widgets_;
     QWidget& panel_;
     Dispatch& door_;
 };
@@ -218,14 +223,19 @@ QWidget* LabelWidget::Widget() const
     return link ? static_cast<QWidget*>(link) : static_cast<QWidget*>(caption);
 }
 
-ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
+ControlWidgets BuildPictures(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
                              const Surfaces& surfaces)
 {
     TeachSpokenRoles(); // a control that has been spoken of keeps the role it had then
-    ControlBuilder builder(panel, door);
-    builder.Build(surfaces);
-    builder.widgets.menu = BuildMenus(menuBar, door);
-    return builder.widgets;
+    ControlWidgets widgets;
+    ControlBuilder(widgets, panel, door).BuildPictures(surfaces);
+    widgets.menu = BuildMenus(menuBar, door);
+    return widgets;
+}
+
+void BuildControls(ControlWidgets& widgets, QWidget& panel, Dispatch& door)
+{
+    ControlBuilder(widgets, panel, door).BuildControls();
 }
 
 std::span<const std::string_view> ReadingOrder()

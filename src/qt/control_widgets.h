@@ -55,9 +55,13 @@ struct Surfaces
     PictureSurface& picDemo;
 };
 
-// Fills the panel and the menu bar. What the user does to a widget goes through the door.
-ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
+// Fills the menu bar, and the panel with what lies lowest: its frames and pictures. What the user
+// does to a widget goes through the door.
+ControlWidgets BuildPictures(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
                              const Surfaces& surfaces);
+
+// All other controls, over those.
+void BuildControls(ControlWidgets& widgets, QWidget& panel, Dispatch& door);
 
 // The names of all controls that take the focus, in reading order: the main picture and the row
 // below it, the two panels, then the tutorials' column.

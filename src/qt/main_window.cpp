@@ -46,8 +46,7 @@ void MainWindow::BuildPanel(Dispatch& door, const Surfaces& surfaces)
     auto* const panel = new QWidget;
     panel->setObjectName("panel");
     panel->setFixedSize(kClientWidth, kClientHeight);
-    widgets_ = BuildControls(*panel, *menuBar(), door, surfaces);
-    mirror_ = std::make_unique<ControlMirror>(widgets_);
+    widgets_ = BuildPictures(*panel, *menuBar(), door, surfaces);
 
     area_->setObjectName("area");
     area_->setWidget(panel);
@@ -57,6 +56,20 @@ void MainWindow::BuildPanel(Dispatch& door, const Surfaces& surfaces)
     connect(qApp, &QApplication::focusChanged, this, [this, panel](QWidget*, QWidget* now) {
         if (now && panel->isAncestorOf(now)) ScrollTo(*now);
     });
+}
+
+void MainWindow::Furnish(Dispatch& door)
+{
+    QWidget& panel = *area_->widget();
+    panel.hide(); // what is added to a panel that nobody sees comes up with it
+    BuildControls(widgets_, panel, door);
+    mirror_ = std::make_unique<ControlMirror>(widgets_);
+    panel.show();
+}
+
+void MainWindow::Match(const Simulation& sim)
+{
+    if (mirror_) mirror_->Pass(sim);
 }
 
 // All of the control, not only its caret.

@@ -15,10 +15,15 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    // The door and the surfaces outlive the window.
+    // The door and the surfaces outlive the window. It has its menu bar and pictures alone.
     MainWindow(Dispatch& door, const Surfaces& surfaces);
 
-    void Match(const Simulation& sim) { mirror_->Pass(sim); }
+    // Adds all other controls, once.
+    void Furnish(Dispatch& door);
+    bool IsFurnished() const { return mirror_ != nullptr; }
+
+    // Does nothing before the window is furnished.
+    void Match(const Simulation& sim);
 
     // What the pictures show, in words for a screen reader.
     void Describe(const Simulation& sim);

@@ -1,14 +1,15 @@
 #include "qt/shell.h"
 
 #include "program/program.h"
+#include "qt/application_icon.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEvent>
 #include <QWindow>
 
 namespace selvane {
 
-Shell::Shell(Platform& platform)
+Shell::Shell(Platform& platform, Opens opens)
     : picSelvane_(kPicSelvane),
       picDemo_(kPicDemo),
       sim_(picSelvane_, picDemo_, platform, TheWiring()),
@@ -19,6 +20,9 @@ Shell::Shell(Platform& platform)
 {
     connect(&door_, &Dispatch::settled, this, &Shell::Match);
     connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
+    connect(&completion_, &QTimer::timeout, this, &Shell::Complete);
+    completion_.setSingleShot(true);
+    if (opens == Opens::Whole) window_.Furnish(door_);
     door_.Report([](Simulation& sim) { Load(sim); });
 }
 
@@ -30,6 +34,16 @@ void Shell::Show()
     window_.centralWidget()->setFocus(); // no control has it before the user's first Tab
     window_.windowHandle()->installEventFilter(this);
     window_.activateWindow(); // a desktop without a window manager activates nothing by itself
+    constexpr int kPatienceMs = 250; // with a desktop that shows the window late or not at all
+    completion_.start(window_.IsFurnished() ? 0 : kPatienceMs);
+}
+
+void Shell::Complete()
+{
+    completion_.stop();
+    if (!window_.IsFurnished()) window_.Furnish(door_);
+    window_.Match(sim_);
+    QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(ApplicationIcon()); });
 }
 
 void Shell::Match(Dispatch::After after)
@@ -43,7 +57,10 @@ void Shell::Match(Dispatch::After after)
 bool Shell::eventFilter(QObject* watched, QEvent* event)
 {
     const bool handled = QObject::eventFilter(watched, event);
-    if (event->type() == QEvent::Expose) timers_.SetWatched(window_.windowHandle()->isExposed());
+    if (event->type() == QEvent::Expose) {
+        timers_.SetWatched(window_.windowHandle()->isExposed());
+        if (!window_.IsFurnished()) completion_.start(0); // the window is painted by then
+    }
     return handled;
 }
 

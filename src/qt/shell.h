@@ -9,6 +9,8 @@
 #include "qt/timers.h"
 #include "qt/window_keeper.h"
 
+#include <QTimer>
+
 namespace selvane {
 
 class Shell : public QObject
@@ -16,8 +18,12 @@ class Shell : public QObject
     Q_OBJECT
 
 public:
+    // What the window has when it first comes up: all of its controls, or only the menu bar and the
+    // pictures, which are on the screen in half the time. The rest follows at once.
+    enum class Opens { Whole, PictureFirst };
+
     // Needs the application object. The platform outlives the shell.
-    explicit Shell(Platform& platform);
+    explicit Shell(Platform& platform, Opens opens = Opens::Whole);
 
     // Shows the main window; its pictures are painted by then.
     void Show();
@@ -35,12 +41,15 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Complete();
+
     PictureSurface picSelvane_, picDemo_;
     Simulation sim_;
     Dispatch door_;
     MainWindow window_;
     Timers timers_;
     WindowKeeper keeper_;
+    QTimer completion_;
 };
 
 } // namespace selvane
