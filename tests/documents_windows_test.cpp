@@ -5,6 +5,7 @@
 #include <map>
 
 using namespace selvane;
+using replay::Stage;
 
 namespace {
 
@@ -77,7 +78,7 @@ const std::string kUnavailable = "Selvane: System Information Is Unavailable At 
 
 TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
 {
-    replay::Stage desk;
+    Stage desk;
     mnAbout_Click(desk.sim);
     const AboutWindow& box = desk.sim.windows.frmAbout;
     EXPECT_EQ(box.caption, "About Selvane");
@@ -87,6 +88,21 @@ TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
     frmAbout::cmdOK_Click(desk.sim);
     EXPECT_FALSE(IsLoaded(desk.sim, WindowId::About));
     EXPECT_EQ(box.caption, "");
+}
+
+TEST(DocumentLinks, LeadToADocumentOfTheFolderInTheirOwnPane)
+{
+    Stage desk;
+    mnUserGuide_Click(desk.sim);
+    const std::string &guide = desk.sim.windows.frmUserGuide.txtHelp.document,
+                      &main = desk.sim.controls.txtHelp.document;
+    FollowDocumentLink(desk.sim, WindowId::UserGuide, "Energy.rtf");
+    FollowDocumentLink(desk.sim, WindowId::Main, "Molniya.rtf");
+    for (const char* none : {"../Energy.rtf", "Energy.txt", "Energy.rtf/"})
+        FollowDocumentLink(desk.sim, WindowId::Main, none);
+    FollowDocumentLink(desk.sim, WindowId::About, "Energy.rtf"); // it is not loaded
+    EXPECT_EQ(guide, "Energy.rtf");
+    EXPECT_EQ(main, "Molniya.rtf");
 }
 
 TEST(SystemInformation, TheFirstValueIsTakenAtItsWord)

@@ -2,7 +2,7 @@
 #include "rich_text/character_sets.h"
 #include "rich_text/reader.h"
 
-#include <chrono>
+#include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
@@ -334,14 +334,15 @@ TEST(RichTextLists, StoredLabelsWinOverWorkedOutOnes)
     const std::string table =
         R"({\*\listtable{\list{\listlevel\levelnfc0\levelstartat3{\leveltext\'02\'00.;}{\levelnumbers\'01;}})"
         R"({\listlevel\levelnfc4\levelstartat1{\leveltext\'04\'00.\'01);}}{\listlevel\levelnfc2{\leveltext\'01\'02;}})"
-        R"({\listlevel\levelnfc23{\leveltext\'01\u-3913 ?;}}{\listlevel\levelnfc255{\leveltext\'00;}}\listid5}})"
-        R"({\*\listoverridetable{\listoverride\listid5\ls1}{\listoverride\listid5{\lfolevel\listoverridestartat\levelstartat7}\ls2}{\listoverride\listid5\ls3}})";
+        R"({\listlevel\levelnfc23{\leveltext\'01\u-3913 ?;}}{\listlevel\levelnfc255{\leveltext\'00;}}\listid5}{\list{\listlevel\levelnfc0\levelstartat0{\leveltext\'01\'00;}}\listid6}})"
+        R"({\*\listoverridetable{\listoverride\listid5\ls1}{\listoverride\listid5{\lfolevel\listoverridestartat\levelstartat7}\ls2}{\listoverride\listid5\ls3}{\listoverride\listid6\ls4}})";
     EXPECT_EQ(
         Labels(Read(table + R"(\ls1 a\par b\par\ilvl1 c\par d\par\ilvl2 e\par\ilvl3 f\par)"
                             R"(\ilvl0{\listtext\f0 9)\tab}g\par h\par\ilvl1 i\par\ilvl4 j\par)"
                             R"(\pard k\par\ls9 l\par\pard\ls2\ilvl44 m\par\ilvl0 n\par)")),
         "0 3.|0 4.|1 4.a)|1 4.b)|2 i|3 •|0 9)|0 6.|1 6.a)|-|-|-|-|0 11.|");
-    EXPECT_EQ(Labels(Read(table + R"(\ls3\ilvl1 a\par\pard\ls3 b\par)")), "1 3.a)|0 3.|");
+    EXPECT_EQ(Labels(Read(table + R"(\ls3\ilvl1 a\par\pard\ls3 b\par\pard\ls4 c\par)")),
+              "1 3.a)|0 3.|0 0|");
 }
 
 TEST(RichTextLists, OldListsStandWithTheirParagraphs)
@@ -349,8 +350,9 @@ TEST(RichTextLists, OldListsStandWithTheirParagraphs)
     EXPECT_EQ(
         Labels(Read(R"({\pntext\bullet\tab}{\*\pn\pnlvlblt{\pntxtb\bullet}}a\par b\par\pard c\par)"
                     R"({\*\pn\pnlvlbody\pnucrm\pnstart4{\pntxtb (}{\pntxta )}}d\par e\par)"
-                    R"(\pard{\*\pn\pnlvl3\pnlcltr{\pntxta .}}f\par{\*\pn\pnlvlcont}g\par)")),
-        "0 •|0 •|-|0 (IV)|0 (V)|2 a.|-|");
+                    R"(\pard{\*\pn\pnlvl3\pnlcltr{\pntxta .}}f\par{\*\pn\pnlvlcont}g\par)"
+                    R"(\pard{\*\pn\pnlvlbody\pndec\pnstart0{\pntxta .}}h\par)")),
+        "0 •|0 •|-|0 (IV)|0 (V)|2 a.|-|0 0.|");
 }
 
 TEST(RichTextTables, RowsCellsAndTheirLook)
@@ -430,7 +432,8 @@ TEST(RichTextPictures, DataKindAndSize)
 {
     const std::string jpeg("\xFF\xD8\xFF\xE0\0\4ab\xFF\xC0\0\x11\x08\0\5\0\1\1", 18);
     const RichText document =
-        Read("a{\\*\\shppict{\\pict{\\*\\picprop{\\sp{\\sn a}{\\sv 7}}}\\picwgoal300\\picscalex50"
+        Read("a{\\*\\shppict{\\pict{\\*\\picprop{\\sp{\\sn a}{\\sv "
+             "7}}}\\picwgoal300\\picscalex50\\picscaley0"
              "\\pngblip " +
              kPngHex + "}}{\\nonshppict{\\pict\\wmetafile8 00}}{\\pict\\jpegblip\\bin18 " + jpeg +
              "}{\\pict\\wmetafile8\\picwgoal30\\pichgoal45 0102}{\\v{\\pict\\pngblip " + kPngHex +
@@ -545,9 +548,9 @@ TEST(RichTextLimits, ReadingStopsAndKeepsWhatItHas)
 
 double SecondsToRead(const std::string& bytes)
 {
-    const auto start = std::chrono::steady_clock::now();
+    const std::clock_t start = std::clock(); // the processor's time: the machine may be busy
     EXPECT_FALSE(Refusal(bytes));
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
 }
 
 // Eight times the size may take sixteen times as long, whatever the document is full of.

@@ -126,6 +126,27 @@ TEST_P(Picture, SectorsOfEverySpanCoverTheirShare)
     }
 }
 
+TEST_P(Picture, AnArcRunsFromItsStartToItsEndInEveryQuarter)
+{
+    for (double start = 0.2; start < 2 * kPi; start += 0.7)
+        for (const double span : {0.5, 2.0, 4.5}) {
+            surface.Cls();
+            surface.Circle(0, 0, 90, kWhite, start, std::fmod(start + span, 2 * kPi));
+            EXPECT_EQ(Wrong([&](const FromCentre& at) -> std::optional<QRgb> {
+                          const double off = std::fabs(at.distance - 90);
+                          double angle = std::atan2(at.y, at.x) - start;
+                          while (angle < 0) angle += 2 * kPi;
+                          const double fromEnds =
+                              std::min(std::fabs(angle - span), std::min(angle, 2 * kPi - angle));
+                          if (off > 0.6) return kPaper;
+                          if (off > 0.4 || fromEnds < 0.02) return std::nullopt;
+                          return angle < span ? kInk : kPaper;
+                      }),
+                      0)
+                << start << " to " << start + span;
+        }
+}
+
 TEST_P(Picture, ADotIsOnePixelAndTheSixthOfATurnOfAnArcIsThatLong)
 {
     surface.PSet(12.3, -7.8);

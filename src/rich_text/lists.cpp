@@ -85,7 +85,7 @@ NumberStyle NumberStyleOf(std::int32_t code)
 
 std::string NumberText(NumberStyle style, std::int32_t number)
 {
-    if (number < 1) return {};
+    if (number < 1 && style != NumberStyle::Arabic) return {}; // no letter or Roman numeral is 0
     switch (style) {
     case NumberStyle::UpperRoman:
         return Capitals(Roman(number));
