@@ -220,6 +220,7 @@ TEST(RichTextCharacters, SymbolFontsShowWhatTheyDraw)
         {R"({\f2\'a7 x\u-3929?})", "• ••"},
         {R"({\field{\*\fldinst SYMBOL 97 \\f "Symbol" \\s 10}{\fldrslt{\f1}}})", "α"},
         {R"({\field{\*\fldinst SYMBOL 61655 \\f Symbol}{\fldrslt shown}})", "shown"},
+        {R"({\field{\*\fldinst PAGE 97}{\fldrslt 3}})", "3"},
         {R"({\field{\*\fldinst symbol 0xE9}}{\field{\*\fldinst SYMBOL 8364 \\u}})", "é€"},
     };
     for (const Case& c : cases) EXPECT_EQ(Text(fonts + c.body), c.text) << c.body;
