@@ -42,10 +42,9 @@ void PictureSurface::SetDeviceScale(double scale)
     width_ = width;
     height_ = height;
     scale_ = scale;
-    pixels_.assign(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), background_);
+    pixels_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     masks_.clear();
-    changed_ = Whole(Target());
-    for (PictureStroke& stroke : log_.TakeAll()) Take(std::move(stroke));
+    DrawAnew();
 }
 
 QImage PictureSurface::Image()
@@ -76,7 +75,18 @@ Canvas PictureSurface::Target()
 // What the last frame drew and this one did not repeat goes.
 void PictureSurface::Settle()
 {
-    if (log_.HasRest()) changed_ = Around(changed_, log_.TakeBackTheRest(Target()));
+    if (!log_.HasRest()) return;
+    if (log_.CanTakeBack())
+        changed_ = Around(changed_, log_.TakeBackTheRest(Target()));
+    else
+        DrawAnew();
+}
+
+void PictureSurface::DrawAnew()
+{
+    Clear(Target(), background_);
+    changed_ = Whole(Target());
+    for (PictureStroke& stroke : log_.TakeRepeated()) Take(std::move(stroke));
 }
 
 // Draws a stroke, unless it stands already.
@@ -132,9 +142,8 @@ double PictureSurface::Length(float userUnits) const
 
 void PictureSurface::OnCls()
 {
-    if (log_.Restart()) return;
-    Clear(Target(), background_);
-    changed_ = Whole(Target());
+    if (log_.IsBlank()) DrawAnew(); // twice in a row: it is to be empty
+    log_.Restart();
 }
 
 void PictureSurface::OnLine(float x1, float y1, float x2, float y2, Colour colour)

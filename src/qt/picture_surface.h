@@ -58,6 +58,7 @@ private:
     double Length(float userUnits) const;
     Canvas Target();
     void Settle();
+    void DrawAnew();
     void Take(PictureStroke stroke);
     Box BoxOfText(const PictureStroke& stroke);
     void DrawText(const PictureStroke& stroke);

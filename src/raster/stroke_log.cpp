@@ -14,10 +14,10 @@ std::size_t Area(const Box& box)
            static_cast<std::size_t>(box.down.end - box.down.first);
 }
 
-// More than this would cost more to keep and to take back than to clear and draw.
+// A frame's dots, a marker and a small body fit in; a large body is cheaper drawn than kept.
 std::size_t MostPixels(const Canvas& canvas)
 {
-    return static_cast<std::size_t>(canvas.width) * static_cast<std::size_t>(canvas.height) / 4;
+    return static_cast<std::size_t>(canvas.width) * static_cast<std::size_t>(canvas.height) / 16;
 }
 
 Run Around(Run one, Run other)
@@ -34,15 +34,6 @@ Box Around(const Box& one, const Box& other)
     return {Around(one.across, other.across), Around(one.down, other.down)};
 }
 
-bool StrokeLog::Restart()
-{
-    const bool goesOn = canTakeBack_ && !strokes_.empty();
-    if (!goesOn) TakeAll();
-    canTakeBack_ = true;
-    repeated_ = 0;
-    return goesOn;
-}
-
 bool StrokeLog::Repeats(const PictureStroke& stroke)
 {
     if (!HasRest() || !(strokes_[repeated_] == stroke)) return false;
@@ -53,8 +44,8 @@ bool StrokeLog::Repeats(const PictureStroke& stroke)
 Box StrokeLog::TakeBackTheRest(const Canvas& canvas)
 {
     Box changed{};
-    for (std::size_t last = strokes_.size(); last > repeated_; --last) {
-        const Box& box = boxes_[last - 1];
+    for (; firmly_ + boxes_.size() > repeated_; boxes_.pop_back()) {
+        const Box& box = boxes_.back();
         if (box.IsEmpty()) continue;
         const auto width = box.across.end - box.across.first;
         auto old = below_.end() - static_cast<std::ptrdiff_t>(Area(box));
@@ -64,21 +55,23 @@ Box StrokeLog::TakeBackTheRest(const Canvas& canvas)
         changed = Around(changed, box);
     }
     strokes_.erase(strokes_.begin() + static_cast<std::ptrdiff_t>(repeated_), strokes_.end());
-    boxes_.resize(repeated_);
     return changed;
 }
 
 const PictureStroke& StrokeLog::Add(PictureStroke&& stroke, const Canvas& canvas, const Box& box)
 {
     constexpr std::size_t kMostStrokes = 50'000;
-    if (strokes_.size() == kMostStrokes) TakeAll();
-    if (canTakeBack_ && below_.size() + Area(box) > MostPixels(canvas)) ForgetPixels();
-    if (canTakeBack_) {
+    if (strokes_.size() == kMostStrokes) TakeRepeated();
+    strokes_.push_back(std::move(stroke));
+    repeated_ = strokes_.size();
+    if (below_.size() + Area(box) > MostPixels(canvas)) {
+        boxes_.clear();
+        below_.clear();
+        firmly_ = strokes_.size();
+    } else {
         SavePixels(canvas, box);
         boxes_.push_back(box);
     }
-    strokes_.push_back(std::move(stroke));
-    repeated_ = strokes_.size();
     return strokes_.back();
 }
 
@@ -90,18 +83,13 @@ void StrokeLog::SavePixels(const Canvas& canvas, const Box& box)
     }
 }
 
-std::vector<PictureStroke> StrokeLog::TakeAll()
+std::vector<PictureStroke> StrokeLog::TakeRepeated()
 {
-    ForgetPixels();
-    repeated_ = 0;
-    return std::exchange(strokes_, {});
-}
-
-void StrokeLog::ForgetPixels()
-{
+    strokes_.resize(repeated_);
     boxes_.clear();
     below_.clear();
-    canTakeBack_ = false;
+    firmly_ = repeated_ = 0;
+    return std::exchange(strokes_, {});
 }
 
 } // namespace selvane

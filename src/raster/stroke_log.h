@@ -1,7 +1,7 @@
-// StrokeLog: the strokes that stand on a picture, each with the pixels it covered. A frame that
-// begins as the one before keeps what it repeats; from the first stroke that differs, the old ones
-// are taken back, the last one first. The picture is the same, to the last bit, as if it had been
-// cleared and drawn anew.
+// StrokeLog: the strokes that stand on a picture, the later ones with the pixels below them. A
+// frame that begins as the one before keeps what it repeats; from the first stroke that differs,
+// the old ones are taken back, the last one first. The picture is the same, to the last bit, as if
+// it had been cleared and drawn anew.
 #pragma once
 
 #include "raster/picture_stroke.h"
@@ -18,36 +18,39 @@ Box Around(const Box& one, const Box& other);
 class StrokeLog
 {
 public:
-    // The next frame begins. False where the strokes that stand cannot be taken back: they are no
-    // longer known, and the picture has to be cleared.
-    bool Restart();
+    // Whether the frame has no stroke yet.
+    bool IsBlank() const { return repeated_ == 0; }
+
+    // The next frame begins: the strokes of the last one stand until it differs from them.
+    void Restart() { repeated_ = 0; }
 
     // Whether the stroke is the next one of those that stand already, so that it stands too.
     bool Repeats(const PictureStroke& stroke);
 
+    // Whether strokes stand that were not repeated, and whether these can be taken back.
     bool HasRest() const { return repeated_ < strokes_.size(); }
+    bool CanTakeBack() const { return repeated_ >= firmly_; }
 
-    // Takes back the strokes that stand but were not repeated; returns where.
+    // Takes them back; returns where.
     Box TakeBackTheRest(const Canvas& canvas);
 
     // Remembers a stroke and what is below it; call before it is drawn within the box, with nothing
-    // left to take back. Strokes that cover too much in all can no longer be taken back; of those
-    // that no frame ends, the oldest are forgotten.
+    // left to take back. Those that cover much can then no longer be taken back, nor those before
+    // them. Of strokes that no frame ends, the oldest are forgotten.
     // Returns the stroke, valid until the next one.
     const PictureStroke& Add(PictureStroke&& stroke, const Canvas& canvas, const Box& box);
 
-    // The strokes that stand, in their order; empties the log, as before the first Restart.
-    std::vector<PictureStroke> TakeAll();
+    // The strokes repeated so far, in their order; empties the log.
+    std::vector<PictureStroke> TakeRepeated();
 
 private:
     void SavePixels(const Canvas& canvas, const Box& box);
-    void ForgetPixels();
 
     std::vector<PictureStroke> strokes_;
-    std::vector<Box> boxes_;   // one for each stroke while they can be taken back
+    std::size_t firmly_ = 0;   // strokes that cannot be taken back
+    std::vector<Box> boxes_;   // one for each of the others
     std::vector<Pixel> below_; // of each box, row upon row
-    std::size_t repeated_ = 0; // strokes of this frame that stood already
-    bool canTakeBack_ = false;
+    std::size_t repeated_ = 0; // strokes of this frame that stand
 };
 
 } // namespace selvane
