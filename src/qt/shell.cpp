@@ -7,7 +7,23 @@
 #include <QEvent>
 #include <QWindow>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace selvane {
+
+namespace {
+
+// What starting needed for a moment goes back to the machine.
+void ReturnFreeMemory()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
+
+} // namespace
 
 Shell::Shell(Platform& platform, Opens opens)
     : picSelvane_(kPicSelvane),
@@ -43,7 +59,10 @@ void Shell::Complete()
     completion_.stop();
     if (!window_.IsFurnished()) window_.Furnish(door_);
     window_.Match(sim_);
-    QTimer::singleShot(0, this, [] { QApplication::setWindowIcon(ApplicationIcon()); });
+    QTimer::singleShot(0, this, [] {
+        QApplication::setWindowIcon(ApplicationIcon());
+        ReturnFreeMemory();
+    });
 }
 
 void Shell::Match(Dispatch::After after)
