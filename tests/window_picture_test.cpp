@@ -184,6 +184,43 @@ TEST_P(Picture, LinesRunFromEndToEndWhateverTheirLength)
     surface.Print("far away");
 }
 
+TEST_P(Picture, SlantedLinesReachEveryBorder)
+{
+    for (const auto& [across, up] : {std::pair{2.0, 1.0}, {1.0, 2.0}, {-1.0, 2.0}, {2.0, -1.0}}) {
+        surface.Cls();
+        surface.Line(-400 * across, -400 * up, 400 * across, 400 * up);
+        int along = 0;
+        const auto distance = [x = across, y = up](const FromCentre& at) {
+            return std::fabs(at.x * y - at.y * x) / std::hypot(x, y);
+        };
+        const int paper = Wrong([&](const FromCentre& at) -> std::optional<QRgb> {
+            if (distance(at) < 0.2) ++along;
+            return distance(at) < 0.2 ? std::optional(kPaper) : std::nullopt;
+        });
+        EXPECT_EQ(paper, along) << "a gap";
+        const int beside = Wrong([&](const FromCentre& at) -> std::optional<QRgb> {
+            return distance(at) > 1.5 ? std::optional(kPaper) : std::nullopt;
+        });
+        EXPECT_EQ(beside, 0);
+    }
+}
+
+// The middle of the central pixel is the same distance from each edge only at whole scales.
+TEST_P(Picture, ADiscIsTheSameFromEverySide)
+{
+    if (GetParam() != std::floor(GetParam())) return;
+    surface.Circle(0, 0, 60.3, RGB(90, 0, 0));
+    const QImage image = surface.Image().copy();
+    const QPoint sum = QPoint(401, 301) * static_cast<int>(GetParam()) - QPoint(1, 1);
+    const int reach = 65 * static_cast<int>(GetParam());
+    for (int row = sum.y() / 2 - reach; row <= sum.y() / 2; ++row)
+        for (int column = sum.x() / 2 - reach; column <= sum.x() / 2; ++column) {
+            const QRgb pixel = image.pixel(column, row);
+            ASSERT_EQ(pixel, image.pixel(sum.x() - column, row)) << column << ' ' << row;
+            ASSERT_EQ(pixel, image.pixel(column, sum.y() - row)) << column << ' ' << row;
+        }
+}
+
 TEST_P(Picture, TextIsWrittenOverWhatIsThereFromItsTopLeftCorner)
 {
     surface.MoveTo(-100, 50);
