@@ -30,6 +30,7 @@ CaptionLabel::CaptionLabel(const LabelRow& row, QWidget* parent)
     : QLabel(parent), place_(row.place), alignment_(row.alignment)
 {
     setTextFormat(Qt::PlainText);
+    laidOut_.setCacheEnabled(true);
     setFont(FontOf(row.points, row.weight, row.underline));
     setAlignment(AlignmentOf(row.alignment));
     if (row.colour) {
@@ -49,8 +50,13 @@ void CaptionLabel::SetCaption(const QString& caption)
 
 void CaptionLabel::Fit()
 {
-    // Quicker than the toolkit's own hint: every tick changes a dozen read-outs.
-    const QSize needed(fontMetrics().horizontalAdvance(text()) + 2, fontMetrics().height());
+    laidOut_.setFont(font());
+    laidOut_.setText(text());
+    laidOut_.beginLayout();
+    const QTextLine line = laidOut_.createLine();
+    laidOut_.endLayout();
+    const QSize needed((line.isValid() ? qRound(line.horizontalAdvance()) : 0) + 2,
+                       fontMetrics().height());
     QRect box = RectOf(place_);
     const int more = std::max(0, needed.width() - box.width());
     if (alignment_ == Alignment::Right) box.adjust(-more, 0, 0, 0);
@@ -58,6 +64,18 @@ void CaptionLabel::Fit()
     if (alignment_ == Alignment::Left) box.adjust(0, 0, more, 0);
     box.setHeight(std::max(box.height(), needed.height()));
     if (box != geometry()) setGeometry(box);
+}
+
+// The toolkit would lay the text out a second time.
+void CaptionLabel::paintEvent(QPaintEvent* event)
+{
+    if (alignment_ != Alignment::Left || text().contains('&')) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setPen(palette().color(foregroundRole()));
+    laidOut_.draw(&painter, {});
 }
 
 LinkLabel::LinkLabel(const QString& text, const Place& place, QWidget* parent)

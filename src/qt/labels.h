@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QTextLayout>
 
 namespace selvane {
 
@@ -17,11 +18,15 @@ public:
 
     void SetCaption(const QString& caption);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     void Fit();
 
     const Place place_;
     const Alignment alignment_;
+    QTextLayout laidOut_; // measured and painted, as every tick changes a dozen read-outs
 };
 
 // A text that looks like a link and is pressed by click, Space or Enter. A screen reader calls it a
