@@ -310,6 +310,16 @@ TEST_P(Picture, KeepsWhatAFrameRepeatsAsIfItWereDrawnAnew)
     EXPECT_EQ(surface.TakeChanged(), QRect(0, 0, 400, 300));
 }
 
+// More strokes than are remembered: the next frame still begins on an empty picture.
+TEST_P(Picture, ForgetsNothingOnThePicture)
+{
+    for (int each = 0; each <= 50'000; ++each) surface.PSet(each % 300 - 150, each / 300 - 80);
+    surface.Cls();
+    surface.PSet(50'000 % 300 - 150, 50'000 / 300 - 80); // the only one that is remembered
+    const int side = qRound(GetParam());
+    EXPECT_EQ(Wrong([](const FromCentre&) -> std::optional<QRgb> { return kPaper; }), side * side);
+}
+
 TEST(DefaultPicture, ChangesInASmallPartAtEachTick)
 {
     PictureSurface picture(kPicSelvane), demo(kPicDemo);

@@ -36,7 +36,7 @@ Box Around(const Box& one, const Box& other)
 
 bool StrokeLog::Repeats(const PictureStroke& stroke)
 {
-    if (!HasRest() || !(strokes_[repeated_] == stroke)) return false;
+    if (forgetful_ || !HasRest() || !(strokes_[repeated_] == stroke)) return false;
     ++repeated_;
     return true;
 }
@@ -61,7 +61,10 @@ Box StrokeLog::TakeBackTheRest(const Canvas& canvas)
 const PictureStroke& StrokeLog::Add(PictureStroke&& stroke, const Canvas& canvas, const Box& box)
 {
     constexpr std::size_t kMostStrokes = 50'000;
-    if (strokes_.size() == kMostStrokes) TakeRepeated();
+    if (strokes_.size() == kMostStrokes) {
+        TakeRepeated();
+        forgetful_ = true;
+    }
     strokes_.push_back(std::move(stroke));
     repeated_ = strokes_.size();
     if (below_.size() + Area(box) > MostPixels(canvas)) {
@@ -89,6 +92,7 @@ std::vector<PictureStroke> StrokeLog::TakeRepeated()
     boxes_.clear();
     below_.clear();
     firmly_ = repeated_ = 0;
+    forgetful_ = false;
     return std::exchange(strokes_, {});
 }
 

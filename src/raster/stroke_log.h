@@ -29,7 +29,7 @@ public:
 
     // Whether strokes stand that were not repeated, and whether these can be taken back.
     bool HasRest() const { return repeated_ < strokes_.size(); }
-    bool CanTakeBack() const { return repeated_ >= firmly_; }
+    bool CanTakeBack() const { return !forgetful_ && repeated_ >= firmly_; }
 
     // Takes them back; returns where.
     Box TakeBackTheRest(const Canvas& canvas);
@@ -51,6 +51,7 @@ private:
     std::vector<Box> boxes_;   // one for each of the others
     std::vector<Pixel> below_; // of each box, row upon row
     std::size_t repeated_ = 0; // strokes of this frame that stand
+    bool forgetful_ = false;   // more strokes stand than are known
 };
 
 } // namespace selvane
