@@ -1,6 +1,6 @@
 // Simulation: everything that the program is while it runs, without a screen. Handlers and
 // scenarios work on the whole of it; what a procedure computes from values alone stands in a
-// kernel beside it.
+// kernel beside it. One thread at a time works on simulations, as scenes remember their last ones.
 #pragma once
 
 #include "app/control_table.h"

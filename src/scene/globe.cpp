@@ -39,7 +39,7 @@ void Graticule(Simulation& sim)
     const double tilt = sim.state.PlanetTilt;
     const double quarter = sim.state.Pi / 2;
     sim.picSelvane.ForeColor = RGB(159, 159, 159);
-    thread_local RememberedRing equator, meridian, quarterTurnFromIt;
+    static RememberedRing equator, meridian, quarterTurnFromIt;
     DrawRing(sim, equator, -tilt, 0);
     DrawRing(sim, meridian, 90 - tilt, 0);
     DrawRing(sim, quarterTurnFromIt, 90 - tilt * std::cos(quarter), quarter);

@@ -189,7 +189,7 @@ void DrawOrbit(Simulation& sim)
     DeriveElements(sim);
     DerivePeriodAndScale(state);
     ReadOrientation(sim);
-    thread_local RememberedPath plotted, referred;
+    static RememberedPath plotted, referred;
     Plot(sim, Follow(state, plotted));
     const OrbitPath& shadowed =
         ReferToTheSun(state) ? Follow(state, referred) : Follow(state, plotted);

@@ -51,7 +51,7 @@ void Equator(Simulation& sim)
 {
     SimState& state = sim.state;
     state.GlobeViewRad = Radians(state, state.GlobeViewDeg);
-    thread_local RememberedRing ring;
+    static RememberedRing ring;
     DrawRing(sim, ring, -state.PlanetTilt, 0);
 }
 
@@ -100,7 +100,7 @@ void RotatingPlanet(Simulation& sim)
     picture.ForeColor = RGB(127, 127, 127);
     Equator(sim);
     TurnPlanet(state);
-    thread_local RememberedRing darkMeridian, brightMeridian;
+    static RememberedRing darkMeridian, brightMeridian;
     Meridian(sim, darkMeridian, Radians(state, state.PlanetRotDeg));
     picture.ForeColor = RGB(191, 191, 191);
     Meridian(sim, brightMeridian, Radians(state, state.PlanetRotDeg) + state.Pi / 2);
