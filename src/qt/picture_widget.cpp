@@ -29,9 +29,13 @@ void PictureWidget::MatchScreen()
 void PictureWidget::paintEvent(QPaintEvent* event)
 {
     MatchScreen();
+    const QImage picture = surface_.Image();
     QPainter painter(this);
-    painter.setClipRegion(event->region());
-    painter.drawImage(0, 0, surface_.Image());
+    // Within a rectangle the toolkit copies; any other shape is filled by several threads.
+    for (const QRect& part : event->region()) {
+        painter.setClipRect(part);
+        painter.drawImage(0, 0, picture);
+    }
 }
 
 } // namespace selvane
