@@ -278,7 +278,7 @@ std::pair<int, int> Differences(const QImage& one, const QImage& other, QRect pa
 } // namespace
 
 // A frame that begins as the one before keeps what it repeats, and reports the rest: that is all
-// that a window repaints.
+// that a window repaints. What waits for a scale or for fonts comes in its order.
 TEST_P(Picture, KeepsWhatAFrameRepeatsAsIfItWereDrawnAnew)
 {
     std::mt19937 random(7);
@@ -288,17 +288,19 @@ TEST_P(Picture, KeepsWhatAFrameRepeatsAsIfItWereDrawnAnew)
     for (int turn = 0; turn < 30; ++turn) {
         frame.resize(random() % (frame.size() + 1));
         for (auto added = random() % 30; added > 0; --added) frame.push_back(AnyStroke(random));
-        PictureSurface anew{kPicDemo};
-        anew.SetDeviceScale(GetParam());
-        anew.Cls();
-        surface.Cls();
-        for (const Drawing& stroke : frame) {
-            stroke(surface);
-            stroke(anew);
+        PictureSurface anew{kPicDemo, GetParam()}, waiting{kPicDemo, 0},
+            silent{kPicDemo, GetParam()};
+        silent.HoldText();
+        for (PictureSurface* const each : {&surface, &anew, &waiting, &silent}) {
+            each->Cls();
+            for (const Drawing& stroke : frame) stroke(*each);
         }
+        waiting.SetDeviceScale(GetParam());
+        silent.ReleaseText();
         const QRect changed = surface.TakeChanged();
         const QImage now = surface.Image().copy();
-        ASSERT_EQ(Differences(now, anew.Image()).first, 0) << "turn " << turn;
+        for (PictureSurface* const each : {&anew, &waiting, &silent})
+            ASSERT_EQ(Differences(now, each->Image()).first, 0) << "turn " << turn;
         ASSERT_EQ(Differences(now, before, changed).second, 0) << "turn " << turn;
         before = now;
     }

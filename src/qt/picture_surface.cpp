@@ -27,10 +27,10 @@ Box Whole(const Canvas& canvas)
 
 } // namespace
 
-PictureSurface::PictureSurface(const PictureRow& row)
+PictureSurface::PictureSurface(const PictureRow& row, double scale)
     : DrawingSurface(row.place.width, row.place.height), background_(PixelOf(row.background))
 {
-    SetDeviceScale(1);
+    if (scale > 0) SetDeviceScale(scale);
 }
 
 void PictureSurface::SetDeviceScale(double scale)
@@ -44,6 +44,12 @@ void PictureSurface::SetDeviceScale(double scale)
     scale_ = scale;
     pixels_.resize(static_cast<std::size_t>(width) * static_cast<std::size_t>(height));
     masks_.clear();
+    DrawAnew();
+}
+
+void PictureSurface::ReleaseText()
+{
+    holdsText_ = false;
     DrawAnew();
 }
 
@@ -86,27 +92,30 @@ void PictureSurface::DrawAnew()
 {
     Clear(Target(), background_);
     changed_ = Whole(Target());
-    for (PictureStroke& stroke : log_.TakeRepeated()) Take(std::move(stroke));
+    const StrokeList repeated = log_.TakeRepeated();
+    for (std::size_t index = 0; index < repeated.Size(); ++index) Take(repeated[index]);
 }
 
 // Draws a stroke, unless it stands already.
-void PictureSurface::Take(PictureStroke stroke)
+void PictureSurface::Take(const PictureStroke& stroke)
 {
     if (log_.Repeats(stroke)) return;
     Settle();
     const bool isText = stroke.kind == Kind::Text;
     const Box box = Clipped(isText ? BoxOfText(stroke) : BoxOf(stroke, scale_), Target());
     changed_ = Around(changed_, box);
-    const PictureStroke& standing = log_.Add(std::move(stroke), Target(), box);
+    log_.Add(stroke, Target(), box);
+    if (box.IsEmpty()) return;
     if (isText)
-        DrawText(standing);
+        DrawText(stroke);
     else
-        Draw(Target(), standing, scale_, box);
+        Draw(Target(), stroke, scale_, box);
 }
 
 // A text's corner is a corner of its pixel.
 Box PictureSurface::BoxOfText(const PictureStroke& stroke)
 {
+    if (holdsText_ || pixels_.empty()) return {};
     const TextMask& mask = MaskOf(stroke.text);
     const int left = qRound(stroke.at.x * scale_ - scale_ / 2);
     const int top = qRound(stroke.at.y * scale_ - scale_ / 2);

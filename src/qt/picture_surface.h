@@ -17,7 +17,13 @@ namespace selvane {
 class PictureSurface : public DrawingSurface
 {
 public:
-    explicit PictureSurface(const PictureRow& row);
+    // The scale as below; at 0 nothing is drawn before there is one.
+    explicit PictureSurface(const PictureRow& row, double scale = 1);
+
+    // Leaves text out until it is released. All else can be drawn without the application object
+    // and outside its thread.
+    void HoldText() { holdsText_ = true; }
+    void ReleaseText();
 
     // Device pixels per pixel of the picture, above 0. At a new scale the picture is drawn anew.
     void SetDeviceScale(double scale);
@@ -59,17 +65,18 @@ private:
     Canvas Target();
     void Settle();
     void DrawAnew();
-    void Take(PictureStroke stroke);
+    void Take(const PictureStroke& stroke);
     Box BoxOfText(const PictureStroke& stroke);
     void DrawText(const PictureStroke& stroke);
     const TextMask& MaskOf(std::string_view text);
 
     const Pixel background_;
     mutable Axis across_{}, down_{}; // as last worked out
-    double scale_ = 1;
+    double scale_ = 0;
     int width_ = 0, height_ = 0; // device pixels
     std::vector<Pixel> pixels_;
     QHash<QByteArray, TextMask> masks_;
+    bool holdsText_ = false;
     StrokeLog log_;
     Box changed_{}; // since the last TakeChanged
 };

@@ -36,7 +36,7 @@ Box Around(const Box& one, const Box& other)
 
 bool StrokeLog::Repeats(const PictureStroke& stroke)
 {
-    if (forgetful_ || !HasRest() || !(strokes_[repeated_] == stroke)) return false;
+    if (forgetful_ || !HasRest() || !strokes_.IsAt(repeated_, stroke)) return false;
     ++repeated_;
     return true;
 }
@@ -54,28 +54,27 @@ Box StrokeLog::TakeBackTheRest(const Canvas& canvas)
         below_.resize(below_.size() - Area(box));
         changed = Around(changed, box);
     }
-    strokes_.erase(strokes_.begin() + static_cast<std::ptrdiff_t>(repeated_), strokes_.end());
+    strokes_.Shorten(repeated_);
     return changed;
 }
 
-const PictureStroke& StrokeLog::Add(PictureStroke&& stroke, const Canvas& canvas, const Box& box)
+void StrokeLog::Add(const PictureStroke& stroke, const Canvas& canvas, const Box& box)
 {
     constexpr std::size_t kMostStrokes = 50'000;
-    if (strokes_.size() == kMostStrokes) {
+    if (strokes_.Size() == kMostStrokes) {
         TakeRepeated();
         forgetful_ = true;
     }
-    strokes_.push_back(std::move(stroke));
-    repeated_ = strokes_.size();
+    strokes_.Add(stroke);
+    repeated_ = strokes_.Size();
     if (below_.size() + Area(box) > MostPixels(canvas)) {
         boxes_.clear();
         below_.clear();
-        firmly_ = strokes_.size();
+        firmly_ = strokes_.Size();
     } else {
         SavePixels(canvas, box);
         boxes_.push_back(box);
     }
-    return strokes_.back();
 }
 
 void StrokeLog::SavePixels(const Canvas& canvas, const Box& box)
@@ -86,9 +85,9 @@ void StrokeLog::SavePixels(const Canvas& canvas, const Box& box)
     }
 }
 
-std::vector<PictureStroke> StrokeLog::TakeRepeated()
+StrokeList StrokeLog::TakeRepeated()
 {
-    strokes_.resize(repeated_);
+    strokes_.Shorten(repeated_);
     boxes_.clear();
     below_.clear();
     firmly_ = repeated_ = 0;

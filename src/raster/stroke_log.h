@@ -4,8 +4,8 @@
 // it had been cleared and drawn anew.
 #pragma once
 
-#include "raster/picture_stroke.h"
 #include "raster/spans.h"
+#include "raster/stroke_list.h"
 
 #include <cstddef>
 #include <vector>
@@ -28,7 +28,7 @@ public:
     bool Repeats(const PictureStroke& stroke);
 
     // Whether strokes stand that were not repeated, and whether these can be taken back.
-    bool HasRest() const { return repeated_ < strokes_.size(); }
+    bool HasRest() const { return repeated_ < strokes_.Size(); }
     bool CanTakeBack() const { return !forgetful_ && repeated_ >= firmly_; }
 
     // Takes them back; returns where.
@@ -37,16 +37,15 @@ public:
     // Remembers a stroke and what is below it; call before it is drawn within the box, with nothing
     // left to take back. Those that cover much can then no longer be taken back, nor those before
     // them. Of strokes that no frame ends, the oldest are forgotten.
-    // Returns the stroke, valid until the next one.
-    const PictureStroke& Add(PictureStroke&& stroke, const Canvas& canvas, const Box& box);
+    void Add(const PictureStroke& stroke, const Canvas& canvas, const Box& box);
 
     // The strokes repeated so far, in their order; empties the log.
-    std::vector<PictureStroke> TakeRepeated();
+    StrokeList TakeRepeated();
 
 private:
     void SavePixels(const Canvas& canvas, const Box& box);
 
-    std::vector<PictureStroke> strokes_;
+    StrokeList strokes_;
     std::size_t firmly_ = 0;   // strokes that cannot be taken back
     std::vector<Box> boxes_;   // one for each of the others
     std::vector<Pixel> below_; // of each box, row upon row
