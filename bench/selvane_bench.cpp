@@ -203,7 +203,7 @@ int main(int argc, char** argv)
     selvane::PrepareApplication();
     QApplication application(argc, argv);
     selvane::SetUpApplication(application);
-    selvane::ChooseWorkingFolder();
+    selvane::ChooseWorkingFolder(argv[0]);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     selvane::Reporter reporter;

@@ -1,36 +1,45 @@
 // Selvane: the entry point.
 #include "qt/appearance.h"
-#include "qt/fonts_ahead.h"
 #include "qt/qt_platform.h"
 #include "qt/shell.h"
 
 #include <QApplication>
+#include <QDBusConnection>
+#include <future>
+#include <memory>
+#include <thread>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace {
 
-QtMessageHandler tellAsUsual = nullptr;
-
-// The toolkit looks for a display in the user's run-time folder and complains where a desktop has
-// none, which is no fault of the user's.
-void TellButThat(QtMsgType type, const QMessageLogContext& context, const QString& message)
+// Threads that live for a moment need no heaps of their own.
+void ShareOneHeap()
 {
-    if (!message.startsWith("QStandardPaths: XDG_RUNTIME_DIR not set"))
-        tellAsUsual(type, context, message);
+#ifdef __GLIBC__
+    mallopt(M_ARENA_MAX, 1);
+#endif
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    tellAsUsual = qInstallMessageHandler(TellButThat);
+    ShareOneHeap();
     selvane::PrepareApplication();
-    selvane::FontsAhead fonts;
-    QApplication application(argc, argv);
-    selvane::SetUpApplication(application);
-    selvane::ChooseWorkingFolder();
+    selvane::ChooseWorkingFolder(argv[0]);
     selvane::QtPlatform platform;
-    fonts.Wait();
-    selvane::Shell shell(platform, selvane::Shell::Opens::PictureFirst);
+    // The toolkit takes its time to start, and so does the bus over which the first window asks for
+    // assistive technology.
+    std::future painting = std::async(std::launch::async, [&platform] {
+        return std::make_unique<selvane::PaintedSimulation>(platform);
+    });
+    QApplication application(argc, argv);
+    const std::jthread connecting([] { QDBusConnection::sessionBus(); });
+    selvane::SetUpApplication(application);
+    selvane::Shell shell(painting.get(), selvane::Shell::Opens::PictureFirst);
     shell.Show();
     return QApplication::exec();
 }

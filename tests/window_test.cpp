@@ -85,6 +85,28 @@ QAccessibleInterface& Spoken(QWidget& widget)
 
 } // namespace
 
+// The rest comes without moving what is there already.
+TEST_F(WindowTest, OpensWithTheOrbitAndCompletesItself)
+{
+    const std::vector<std::string> usual = VisibleNames(shell->Window());
+    shell = std::make_unique<Shell>(std::make_unique<PaintedSimulation>(platform),
+                                    Shell::Opens::PictureFirst);
+    shell->Clockwork().StandStill();
+    shell->Show();
+    QWidget& picture = Find("picSelvane");
+    const QPoint place = picture.mapTo(&shell->Window(), QPoint());
+    const QRect planet(330, 230, 60, 60); // its day side and the orbit; no text
+    const QImage early = picture.grab(planet).toImage();
+    ASSERT_EQ(shell->Window().findChild<QWidget*>("txtView"), nullptr);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return shell->Window().IsFurnished(); }));
+    EXPECT_EQ(VisibleNames(shell->Window()), usual);
+    EXPECT_EQ(picture.mapTo(&shell->Window(), QPoint()), place);
+    EXPECT_EQ(picture.grab(planet).toImage(), early);
+    const QMenuBar& bar = *shell->Window().menuBar();
+    EXPECT_EQ(bar.height(), bar.sizeHint().height());
+    EXPECT_EQ(bar.actions().size(), 6);
+}
+
 TEST_F(WindowTest, TabWalksAllControlsInReadingOrderAndTheFocusIsSeen)
 {
     const std::vector<std::string> expected = VisibleNames(shell->Window());

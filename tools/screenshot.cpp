@@ -183,7 +183,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     selvane::SetUpApplication(application);
     const QString folder = QDir::currentPath();
-    selvane::ChooseWorkingFolder();
+    selvane::ChooseWorkingFolder(argv[0]);
     selvane::Order absolute = *order;
     absolute.out = QDir(folder).absoluteFilePath(order->out);
     if (!order->script.isEmpty()) absolute.script = QDir(folder).absoluteFilePath(order->script);

@@ -5,12 +5,15 @@
 #include <QApplication>
 #include <QPalette>
 #include <QStyle>
+#include <QThreadPool>
 #include <QToolTip>
 #include <clocale>
 
 namespace selvane {
 
 namespace {
+
+constexpr int kIdleThreadMs = 1000; // the toolkit's, which fill large areas
 
 // Every colour is named, so that a dark desktop changes none of them.
 QPalette LightPalette()
@@ -58,6 +61,8 @@ void PrepareApplication()
         Qt::HighDpiScaleFactorRoundingPolicy::PassThrough);
     // The desktop's theme would bring its own palette, fonts and messages.
     QApplication::setDesktopSettingsAware(false);
+    // The menu bar is the window's; a desktop that shows it elsewhere is not asked.
+    QApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
 }
 
 void SetUpApplication(QApplication& application)
@@ -70,6 +75,7 @@ void SetUpApplication(QApplication& application)
     application.setPalette(LightPalette());
     application.setFont(FontOf(kTextPoints));
     QApplication::setCursorFlashTime(0); // a caret that blinks keeps a program at rest awake
+    QThreadPool::globalInstance()->setExpiryTimeout(kIdleThreadMs);
     QToolTip::setPalette(LightPalette());
     QToolTip::setFont(FontOf(kTextPoints));
 }

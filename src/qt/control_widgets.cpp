@@ -40,14 +40,17 @@ public:
     {}
 
     // From the bottom of the pile to its top.
-    void BuildPictures(const Surfaces& surfaces)
+    void BuildMainPicture(PictureSurface& surface)
     {
         for (const FrameRow& row : FrameTable()) AddFrame(row);
-        AddPictures(surfaces);
+        widgets_.picSelvane = new PictureWidget(surface, kPicSelvane, &panel_);
     }
 
-    void BuildControls()
+    void BuildControls(PictureSurface& tutorialPicture)
     {
+        widgets_.picSelvane->setAccessibleName("Orbit");
+        widgets_.picDemo = new PictureWidget(tutorialPicture, kPicDemo, &panel_);
+        widgets_.picDemo->setAccessibleName("Tutorial picture");
         for (const LabelRow& row : LabelTable()) AddLabel(row);
         AddMarker();
         for (const ScrollBarRow& row : ScrollBarTable()) AddBar(row);
@@ -75,14 +78,6 @@ private:
         if (row.fill) colours.setColor(QPalette::Window, ColourOf(*row.fill));
         frame->setPalette(colours);
         frame->setAutoFillBackground(row.fill.has_value());
-    }
-
-    void AddPictures(const Surfaces& surfaces)
-    {
-        widgets_.picSelvane = new PictureWidget(surfaces.picSelvane, kPicSelvane, &panel_);
-        widgets_.picSelvane->setAccessibleName("Orbit");
-        widgets_.picDemo = new PictureWidget(surfaces.picDemo, kPicDemo, &panel_);
-        widgets_.picDemo->setAccessibleName("Tutorial picture");
     }
 
     void AddLabel(const LabelRow& row)
@@ -223,19 +218,18 @@ QWidget* LabelWidget::Widget() const
     return link ? static_cast<QWidget*>(link) : static_cast<QWidget*>(caption);
 }
 
-ControlWidgets BuildPictures(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
-                             const Surfaces& surfaces)
+ControlWidgets BuildMainPicture(QWidget& panel, PictureSurface& surface, Dispatch& door)
 {
     TeachSpokenRoles(); // a control that has been spoken of keeps the role it had then
     ControlWidgets widgets;
-    ControlBuilder(widgets, panel, door).BuildPictures(surfaces);
-    widgets.menu = BuildMenus(menuBar, door);
+    ControlBuilder(widgets, panel, door).BuildMainPicture(surface);
     return widgets;
 }
 
-void BuildControls(ControlWidgets& widgets, QWidget& panel, Dispatch& door)
+void BuildControls(ControlWidgets& widgets, const WindowParts& window, Dispatch& door)
 {
-    ControlBuilder(widgets, panel, door).BuildControls();
+    ControlBuilder(widgets, window.panel, door).BuildControls(window.tutorialPicture);
+    widgets.menu = BuildMenus(window.menuBar, door);
 }
 
 std::span<const std::string_view> ReadingOrder()

@@ -49,19 +49,18 @@ struct ControlWidgets
     HelpPaneWidget* txtHelp = nullptr;
 };
 
-struct Surfaces
+// Puts on the panel what lies lowest, its frames and the main picture. None of it has text.
+ControlWidgets BuildMainPicture(QWidget& panel, PictureSurface& surface, Dispatch& door);
+
+struct WindowParts
 {
-    PictureSurface& picSelvane;
-    PictureSurface& picDemo;
+    QWidget& panel;
+    QMenuBar& menuBar;
+    PictureSurface& tutorialPicture;
 };
 
-// Fills the menu bar, and the panel with what lies lowest: its frames and pictures. What the user
-// does to a widget goes through the door.
-ControlWidgets BuildPictures(QWidget& panel, QMenuBar& menuBar, Dispatch& door,
-                             const Surfaces& surfaces);
-
-// All other controls, over those.
-void BuildControls(ControlWidgets& widgets, QWidget& panel, Dispatch& door);
+// Adds all others, and fills the menu bar. What the user does to a widget goes through the door.
+void BuildControls(ControlWidgets& widgets, const WindowParts& window, Dispatch& door);
 
 // The names of all controls that take the focus, in reading order: the main picture and the row
 // below it, the two panels, then the tutorials' column.

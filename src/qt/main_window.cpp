@@ -21,6 +21,17 @@ namespace selvane {
 
 namespace {
 
+constexpr int kMenuBarHeight = 20; // pixels; a line of text with its room
+
+// The toolkit's own hint is measured in letters, and fonts are not there yet.
+class PanelArea : public QScrollArea
+{
+public:
+    using QScrollArea::QScrollArea;
+
+    QSize sizeHint() const override { return {kClientWidth, kClientHeight}; }
+};
+
 void SetDescription(QWidget& widget, const std::string& words)
 {
     const QString text = TextOf(words);
@@ -29,24 +40,25 @@ void SetDescription(QWidget& widget, const std::string& words)
 
 } // namespace
 
-MainWindow::MainWindow(Dispatch& door, const Surfaces& surfaces) : area_(new QScrollArea(this))
+MainWindow::MainWindow(Dispatch& door, PictureSurface& mainPicture) : area_(new PanelArea(this))
 {
     setObjectName(TextOf(kApplicationTitle));
     setWindowTitle(TextOf(kApplicationTitle));
-    setMenuBar(new MenuBar);
-    menuBar()->setNativeMenuBar(false);
+    auto* const menuBarsPlace = new QWidget;
+    menuBarsPlace->setFixedHeight(kMenuBarHeight);
+    setMenuWidget(menuBarsPlace);
     setContextMenuPolicy(Qt::NoContextMenu);
-    BuildPanel(door, surfaces);
+    BuildPanel(door, mainPicture);
     AddShortcuts(door);
     FitToScreen();
 }
 
-void MainWindow::BuildPanel(Dispatch& door, const Surfaces& surfaces)
+void MainWindow::BuildPanel(Dispatch& door, PictureSurface& mainPicture)
 {
     auto* const panel = new QWidget;
     panel->setObjectName("panel");
     panel->setFixedSize(kClientWidth, kClientHeight);
-    widgets_ = BuildPictures(*panel, *menuBar(), door, surfaces);
+    widgets_ = BuildMainPicture(*panel, mainPicture, door);
 
     area_->setObjectName("area");
     area_->setWidget(panel);
@@ -58,11 +70,14 @@ void MainWindow::BuildPanel(Dispatch& door, const Surfaces& surfaces)
     });
 }
 
-void MainWindow::Furnish(Dispatch& door)
+void MainWindow::Furnish(Dispatch& door, PictureSurface& tutorialPicture)
 {
     QWidget& panel = *area_->widget();
     panel.hide(); // what is added to a panel that nobody sees comes up with it
-    BuildControls(widgets_, panel, door);
+    auto* const bar = new MenuBar;
+    bar->setFixedHeight(kMenuBarHeight);
+    BuildControls(widgets_, {panel, *bar, tutorialPicture}, door);
+    setMenuBar(bar);
     mirror_ = std::make_unique<ControlMirror>(widgets_);
     panel.show();
 }
@@ -103,21 +118,16 @@ void MainWindow::ActivateMenuBar()
 
 void MainWindow::Describe(const Simulation& sim)
 {
+    if (!mirror_) return;
     SetDescription(*widgets_.picSelvane, DescribeMainPicture(sim));
     SetDescription(*widgets_.picDemo, DescribeTutorialPicture(sim));
-}
-
-void MainWindow::MatchScreen()
-{
-    widgets_.picSelvane->MatchScreen();
-    widgets_.picDemo->MatchScreen();
 }
 
 void MainWindow::FitToScreen()
 {
     const QRect room = screen()->availableGeometry();
     const QSize borders = frameGeometry().size() - geometry().size();
-    QSize needed(kClientWidth, kClientHeight + menuBar()->sizeHint().height());
+    QSize needed(kClientWidth, kClientHeight + kMenuBarHeight);
     needed += borders;
     // A scroll bar that comes for want of height would take its share of the width.
     if (needed.height() > room.height())

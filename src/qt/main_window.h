@@ -15,21 +15,18 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    // The door and the surfaces outlive the window. It has its menu bar and pictures alone.
-    MainWindow(Dispatch& door, const Surfaces& surfaces);
+    // The door and the surface outlive the window. It has the main picture alone, and no text.
+    MainWindow(Dispatch& door, PictureSurface& mainPicture);
 
-    // Adds all other controls, once.
-    void Furnish(Dispatch& door);
+    // Adds the menus and all other controls, once. The surface outlives the window.
+    void Furnish(Dispatch& door, PictureSurface& tutorialPicture);
     bool IsFurnished() const { return mirror_ != nullptr; }
 
     // Does nothing before the window is furnished.
     void Match(const Simulation& sim);
 
-    // What the pictures show, in words for a screen reader.
+    // What the pictures show, in words for a screen reader; likewise.
     void Describe(const Simulation& sim);
-
-    // Draws the pictures at the resolution of the window's screen from now on.
-    void MatchScreen();
 
     // The size as laid out, but no larger than the screen has room for.
     void FitToScreen();
@@ -38,7 +35,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void BuildPanel(Dispatch& door, const Surfaces& surfaces);
+    void BuildPanel(Dispatch& door, PictureSurface& mainPicture);
     void AddShortcuts(Dispatch& door);
     void ActivateMenuBar();
     void ScrollTo(const QWidget& control);

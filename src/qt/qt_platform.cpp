@@ -12,6 +12,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QUrl>
+#include <filesystem>
 
 namespace selvane {
 
@@ -26,10 +27,19 @@ bool HoldsDocuments(const QString& folder)
     return QFileInfo(folder, kFirstDocument).isFile();
 }
 
-// Installed beside the program's folder; built, in a folder above it.
-QStringList DocumentFolders()
+// By the system's own word where it has one, otherwise by the name it was started with.
+std::filesystem::path ProgramFolder(const char* program)
 {
-    QDir folder(QCoreApplication::applicationDirPath());
+    std::error_code none;
+    std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", none);
+    if (none) path = std::filesystem::absolute(program, none);
+    return path.parent_path();
+}
+
+// Installed beside the program's folder; built, in a folder above it.
+QStringList DocumentFolders(const std::filesystem::path& programFolder)
+{
+    QDir folder(programFolder);
     QStringList folders{folder.filePath("../share/help/C/selvane")};
     do folders += folder.filePath("help");
     while (folder.cdUp());
@@ -48,10 +58,10 @@ QString SystemInformationTool()
 
 } // namespace
 
-void ChooseWorkingFolder()
+void ChooseWorkingFolder(const char* program)
 {
     if (HoldsDocuments(".")) return;
-    for (const QString& folder : DocumentFolders())
+    for (const QString& folder : DocumentFolders(ProgramFolder(program)))
         if (HoldsDocuments(folder)) {
             QDir::setCurrent(folder);
             return;

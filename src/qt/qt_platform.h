@@ -9,7 +9,8 @@ namespace selvane {
 
 // Makes the folder that holds the documents the working folder: the present one if it holds the
 // first document, otherwise where they were installed, or built. Leaves it where none is found.
-void ChooseWorkingFolder();
+// `program` is the name that the program was started with.
+void ChooseWorkingFolder(const char* program);
 
 class QtPlatform : public QObject, public Platform
 {

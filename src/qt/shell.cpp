@@ -1,6 +1,5 @@
 #include "qt/shell.h"
 
-#include "program/program.h"
 #include "qt/application_icon.h"
 
 #include <QApplication>
@@ -25,12 +24,14 @@ void ReturnFreeMemory()
 
 } // namespace
 
-Shell::Shell(Platform& platform, Opens opens)
-    : picSelvane_(kPicSelvane),
-      picDemo_(kPicDemo),
-      sim_(picSelvane_, picDemo_, platform, TheWiring()),
-      door_(sim_),
-      window_(door_, {picSelvane_, picDemo_}),
+Shell::Shell(Platform& platform)
+    : Shell(std::make_unique<PaintedSimulation>(platform), Opens::Whole)
+{}
+
+Shell::Shell(std::unique_ptr<PaintedSimulation> painted, Opens opens)
+    : painted_(std::move(painted)),
+      door_(painted_->sim),
+      window_(door_, painted_->picSelvane),
       timers_(door_),
       keeper_(door_, window_)
 {
@@ -38,14 +39,12 @@ Shell::Shell(Platform& platform, Opens opens)
     connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
     connect(&completion_, &QTimer::timeout, this, &Shell::Complete);
     completion_.setSingleShot(true);
-    if (opens == Opens::Whole) window_.Furnish(door_);
-    door_.Report([](Simulation& sim) { Load(sim); });
+    if (opens == Opens::Whole) Furnish();
 }
 
 void Shell::Show()
 {
-    window_.MatchScreen();
-    door_.Report([](Simulation& sim) { FirstShowing(sim); });
+    door_.Report([](Simulation&) {}); // the window is made to match what has been painted
     window_.show();
     window_.centralWidget()->setFocus(); // no control has it before the user's first Tab
     window_.windowHandle()->installEventFilter(this);
@@ -54,11 +53,18 @@ void Shell::Show()
     completion_.start(window_.IsFurnished() ? 0 : kPatienceMs);
 }
 
+void Shell::Furnish()
+{
+    painted_->picSelvane.ReleaseText();
+    window_.Furnish(door_, painted_->picDemo);
+    window_.Match(Sim());
+    window_.Describe(Sim());
+}
+
 void Shell::Complete()
 {
     completion_.stop();
-    if (!window_.IsFurnished()) window_.Furnish(door_);
-    window_.Match(sim_);
+    if (!window_.IsFurnished()) Furnish();
     QTimer::singleShot(0, this, [] {
         QApplication::setWindowIcon(ApplicationIcon());
         ReturnFreeMemory();
@@ -67,10 +73,10 @@ void Shell::Complete()
 
 void Shell::Match(Dispatch::After after)
 {
-    window_.Match(sim_);
-    if (after == Dispatch::After::Actions) window_.Describe(sim_);
-    timers_.Match(sim_.controls.timers);
-    keeper_.Match(sim_);
+    window_.Match(Sim());
+    if (after == Dispatch::After::Actions) window_.Describe(Sim());
+    timers_.Match(Sim().controls.timers);
+    keeper_.Match(Sim());
 }
 
 bool Shell::eventFilter(QObject* watched, QEvent* event)

@@ -5,11 +5,12 @@
 #include "app/simulation.h"
 #include "qt/dispatch.h"
 #include "qt/main_window.h"
-#include "qt/picture_surface.h"
+#include "qt/painted_simulation.h"
 #include "qt/timers.h"
 #include "qt/window_keeper.h"
 
 #include <QTimer>
+#include <memory>
 
 namespace selvane {
 
@@ -18,17 +19,17 @@ class Shell : public QObject
     Q_OBJECT
 
 public:
-    // What the window has when it first comes up: all of its controls, or only the menu bar and the
-    // pictures, which are on the screen in half the time. The rest follows at once.
+    // What the window has when it first comes up: all of its controls, or only the main picture
+    // without its words, which needs no fonts. The rest follows at once.
     enum class Opens { Whole, PictureFirst };
 
     // Needs the application object. The platform outlives the shell.
-    explicit Shell(Platform& platform, Opens opens = Opens::Whole);
+    explicit Shell(Platform& platform);
+    Shell(std::unique_ptr<PaintedSimulation> painted, Opens opens);
 
-    // Shows the main window; its pictures are painted by then.
     void Show();
 
-    const Simulation& Sim() const { return sim_; }
+    const Simulation& Sim() const { return painted_->sim; }
     Dispatch& Door() { return door_; }
     MainWindow& Window() { return window_; }
     Timers& Clockwork() { return timers_; }
@@ -41,10 +42,10 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Furnish();
     void Complete();
 
-    PictureSurface picSelvane_, picDemo_;
-    Simulation sim_;
+    const std::unique_ptr<PaintedSimulation> painted_;
     Dispatch door_;
     MainWindow window_;
     Timers timers_;
