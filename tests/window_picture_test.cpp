@@ -312,6 +312,30 @@ TEST_P(Picture, KeepsWhatAFrameRepeatsAsIfItWereDrawnAnew)
     EXPECT_EQ(surface.TakeChanged(), QRect(0, 0, 400, 300));
 }
 
+TEST_P(Picture, AStrokeThatDiffersInAnythingIsAnotherOne)
+{
+    struct Mark
+    {
+        double x, y, radius; // no radius: a dot
+        Colour ink;
+    };
+    const Colour red = RGB(255, 0, 0);
+    for (const Mark& mark : {Mark{10, 20, 0, kWhite}, Mark{10, 21, 0, kWhite},
+                             Mark{11, 21, 0, kWhite}, Mark{11, 21, 0, red}, Mark{11, 21, 1, red},
+                             Mark{11, 21, 5, red}, Mark{11, 21, 5, kWhite}}) {
+        PictureSurface anew{kPicDemo, GetParam()};
+        for (PictureSurface* const each : {&surface, &anew}) {
+            each->Cls();
+            each->ForeColor = each->FillColor = mark.ink;
+            if (mark.radius > 0)
+                each->Circle(mark.x, mark.y, mark.radius, mark.ink);
+            else
+                each->PSet(mark.x, mark.y);
+        }
+        EXPECT_EQ(Differences(surface.Image(), anew.Image()).first, 0);
+    }
+}
+
 // More strokes than are remembered: the next frame still begins on an empty picture.
 TEST_P(Picture, ForgetsNothingOnThePicture)
 {

@@ -9,6 +9,7 @@
 #include <QAccessible>
 #include <QAction>
 #include <QApplication>
+#include <QBackingStore>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -95,16 +96,30 @@ TEST_F(WindowTest, OpensWithTheOrbitAndCompletesItself)
     shell->Show();
     QWidget& picture = Find("picSelvane");
     const QPoint place = picture.mapTo(&shell->Window(), QPoint());
-    const QRect planet(330, 230, 60, 60); // its day side and the orbit; no text
-    const QImage early = picture.grab(planet).toImage();
+    const QRect planet(330, 230, 60, 60), north(435, 195, 25, 20);
+    const QImage dayside = picture.grab(planet).toImage(), pole = picture.grab(north).toImage();
     ASSERT_EQ(shell->Window().findChild<QWidget*>("txtView"), nullptr);
     ASSERT_TRUE(QTest::qWaitFor([&] { return shell->Window().IsFurnished(); }));
     EXPECT_EQ(VisibleNames(shell->Window()), usual);
     EXPECT_EQ(picture.mapTo(&shell->Window(), QPoint()), place);
-    EXPECT_EQ(picture.grab(planet).toImage(), early);
+    EXPECT_EQ(picture.grab(planet).toImage(), dayside);
+    EXPECT_NE(picture.grab(north).toImage(), pole) << "words come with the fonts";
     const QMenuBar& bar = *shell->Window().menuBar();
     EXPECT_EQ(bar.height(), bar.sizeHint().height());
     EXPECT_EQ(bar.actions().size(), 6);
+}
+
+// What is on the screen after a flight in small repaints is what a whole repaint shows.
+TEST_F(WindowTest, RepaintsAllThatChanged)
+{
+    for (int tick = 0; tick < 100; ++tick) {
+        Ticks(1);
+        QApplication::processEvents();
+    }
+    QWidget& window = shell->Window();
+    const auto& onScreen = dynamic_cast<QImage&>(*window.backingStore()->paintDevice());
+    EXPECT_EQ(onScreen.convertToFormat(QImage::Format_RGB32),
+              window.grab().toImage().convertToFormat(QImage::Format_RGB32));
 }
 
 TEST_F(WindowTest, TabWalksAllControlsInReadingOrderAndTheFocusIsSeen)
