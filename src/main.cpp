@@ -1,5 +1,6 @@
 // Selvane: the entry point.
 #include "qt/appearance.h"
+#include "qt/heap.h"
 #include "qt/qt_platform.h"
 #include "qt/shell.h"
 
@@ -9,25 +10,9 @@
 #include <memory>
 #include <thread>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
-namespace {
-
-// Threads that live for a moment need no heaps of their own.
-void ShareOneHeap()
-{
-#ifdef __GLIBC__
-    mallopt(M_ARENA_MAX, 1);
-#endif
-}
-
-} // namespace
-
 int main(int argc, char** argv)
 {
-    ShareOneHeap();
+    selvane::ShareOneHeap();
     selvane::PrepareApplication();
     selvane::ChooseWorkingFolder(argv[0]);
     selvane::QtPlatform platform;

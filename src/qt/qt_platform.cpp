@@ -30,9 +30,9 @@ bool HoldsDocuments(const QString& folder)
 // By the system's own word where it has one, otherwise by the name it was started with.
 std::filesystem::path ProgramFolder(const char* program)
 {
-    std::error_code none;
-    std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", none);
-    if (none) path = std::filesystem::absolute(program, none);
+    std::error_code failure;
+    std::filesystem::path path = std::filesystem::read_symlink("/proc/self/exe", failure);
+    if (failure) path = std::filesystem::absolute(program, failure);
     return path.parent_path();
 }
 

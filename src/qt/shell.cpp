@@ -1,28 +1,13 @@
 #include "qt/shell.h"
 
 #include "qt/application_icon.h"
+#include "qt/heap.h"
 
 #include <QApplication>
 #include <QEvent>
 #include <QWindow>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 namespace selvane {
-
-namespace {
-
-// What starting needed for a moment goes back to the machine.
-void ReturnFreeMemory()
-{
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-}
-
-} // namespace
 
 Shell::Shell(Platform& platform)
     : Shell(std::make_unique<PaintedSimulation>(platform), Opens::Whole)
@@ -67,7 +52,7 @@ void Shell::Complete()
     if (!window_.IsFurnished()) Furnish();
     QTimer::singleShot(0, this, [] {
         QApplication::setWindowIcon(ApplicationIcon());
-        ReturnFreeMemory();
+        ReturnFreeMemory(); // starting takes more than flying
     });
 }
 

@@ -27,9 +27,9 @@ private:
 
     struct Place
     {
-        DevicePoint at; // of a dot, as its colour
-        Pixel pixel;
-        std::uint32_t other; // which one of those, or that it is a dot
+        DevicePoint at;      // where a dot is
+        Pixel pixel;         // its colour
+        std::uint32_t other; // which of the others it is, or kDot
     };
 
     std::vector<Place> places_;
