@@ -1,5 +1,7 @@
 // The projection and the dots of the main picture against plain rotation matrices.
 
+#include "app/number_text.h"
+#include "app/tolerance.h"
 #include "replay/stage.h"
 #include "scene/projection.h"
 
@@ -93,6 +95,47 @@ TEST(Projection, TheTwoBranchRuleTurnsTheNegativeYSideUp)
     EXPECT_NEAR(mirrored.x, 45.87, 0.005);
     EXPECT_NEAR(mirrored.y, 17.23, 0.005);
     EXPECT_GT(mirrored.z, 0);
+}
+
+// On a turn by whole quarters, what is 0 in exact arithmetic is neither in front nor behind, and a
+// point on the limb or on the shadow's surface is hidden and lit, whatever the last bits say.
+TEST(Projection, WhatIsNextToAMarkCountsAsTheMark)
+{
+    int onTheScreen = 0;
+    for (int inPlane = 0; inPlane <= 360; inPlane += 30)
+        for (int aboutZ = -360; aboutZ <= 360; aboutZ += 30)
+            for (int quarters = -4; quarters <= 4; ++quarters) {
+                const Turn turn{0, Radian(aboutZ), Radian(quarters * 90)};
+                const Projected point = Project(50, Radian(inPlane), turn);
+                const int angle = (inPlane + aboutZ + 720) % 360;
+                const bool flat = quarters % 2 == 0 || angle % 180 == 0;
+                EXPECT_EQ(point.z == 0, flat) << inPlane << ' ' << aboutZ << ' ' << quarters;
+                EXPECT_EQ(point.x == 0, angle % 180 == 90) << inPlane << ' ' << aboutZ;
+                EXPECT_EQ(point.x > 0, angle < 90 || angle > 270) << inPlane << ' ' << aboutZ;
+                EXPECT_EQ(IsInSight(point, 50), point.z > 0);
+                onTheScreen += flat;
+            }
+    EXPECT_GT(onTheScreen, 1000);
+
+    const Projected onTheLimb{30, 40, 0, 50, 50, 0, 0, 0};
+    const double nearly = 50 * 1e-10, clearly = 50 * 1e-8;
+    EXPECT_FALSE(IsInSight(onTheLimb, 50 - nearly));
+    EXPECT_TRUE(IsInSight(onTheLimb, 50 - clearly));
+    const Projected onTheShadow{1, 30, -40, std::hypot(1.0, 30.0), 50, 0, 0, 0};
+    EXPECT_FALSE(IsInShadow(onTheShadow, 50 + nearly));
+    EXPECT_TRUE(IsInShadow(onTheShadow, 50 + clearly));
+}
+
+TEST(Tolerance, WholeNumbersAndTiesAreMetFromBothSides)
+{
+    for (const double whole : {-3.0, 0.0, 1.0, 599.0, 35786.0, 1e6}) {
+        for (const double rounding : {-1e-10, 0.0, 1e-10}) {
+            EXPECT_EQ(SettledFloor(whole + rounding), whole) << rounding;
+            EXPECT_EQ(RoundHalfEven(2 * whole + 0.5 + rounding), 2 * whole) << rounding;
+        }
+        EXPECT_EQ(SettledFloor(whole - 1e-6), whole - 1);
+        EXPECT_EQ(RoundHalfEven(2 * whole + 0.5 + 1e-6), 2 * whole + 1);
+    }
 }
 
 // The rings' dots come first, equator and dark meridian in one grey, then the orbit's.

@@ -1,6 +1,7 @@
 #include "app/number_text.h"
 
 #include "app/assertion.h"
+#include "app/tolerance.h"
 
 #include <algorithm>
 #include <charconv>
@@ -204,7 +205,7 @@ std::string TwoDigits(double number)
 double RoundHalfEven(double number)
 {
     const double floor = std::floor(number);
-    const double rest = number - floor;
+    const double rest = Snapped(number - floor, 0.5, 1);
     if (rest < 0.5) return floor;
     if (rest > 0.5) return floor + 1;
     return std::fmod(floor, 2) == 0 ? floor : floor + 1;

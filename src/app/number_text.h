@@ -28,7 +28,8 @@ std::string FixedNumber(double number, int decimals);
 // The pattern "00": a whole number of at least two digits.
 std::string TwoDigits(double number);
 
-// Rounds to a whole number outside a pattern: to nearest, ties to even.
+// Rounds to a whole number outside a pattern: to nearest, ties to even. A number next to a tie
+// counts as one (tolerance.h).
 double RoundHalfEven(double number);
 
 } // namespace selvane

@@ -3,6 +3,7 @@
 #include "app/help_pane.h"
 #include "app/number_text.h"
 #include "app/simulation.h"
+#include "app/tolerance.h"
 
 #include <cmath>
 
@@ -56,7 +57,7 @@ void ShowMotion(Simulation& sim, double distance)
     const SimState& state = sim.state;
     Row(sim, 9, "Velocity = ", FixedNumber(state.SatVelocity, 1), " km/sec");
     Row(sim, 10, "True Anomaly = ", FixedNumber(state.TrueAnomaly, 0), " Degrees");
-    Row(sim, 11, "Altitude = ", PlainNumber(std::floor(distance - state.PlanetRadius)), " km");
+    Row(sim, 11, "Altitude = ", PlainNumber(SettledFloor(distance - state.PlanetRadius)), " km");
     SetCaption(sim, lblPE, "Potential = " + FixedNumber(state.PotentialEnergy, 1));
     SetCaption(sim, lblKE, "Kinetic = " + FixedNumber(state.KineticEnergy, 1));
     SetCaption(sim, lblTE, "Total = " + FixedNumber(state.TotalEnergy, 1));
@@ -74,7 +75,7 @@ void ShowPosition(Simulation& sim)
 void ShowDay(Simulation& sim)
 {
     constexpr double kDaysPerYear = 365.24;
-    const double day = std::floor(sim.state.HelioDeg * kDaysPerYear / 360);
+    const double day = SettledFloor(sim.state.HelioDeg * kDaysPerYear / 360);
     Row(sim, 10, "Day = ", PlainNumber(day), "");
 }
 

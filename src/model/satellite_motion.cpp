@@ -2,6 +2,7 @@
 
 #include "app/number_text.h"
 #include "app/simulation.h"
+#include "app/tolerance.h"
 #include "model/read_outs.h"
 #include "scene/orbit_elements.h"
 #include "scene/projection.h"
@@ -54,36 +55,38 @@ void WorkOutMotion(SimState& state, double distance)
     state.TotalEnergy = state.KineticEnergy + state.PotentialEnergy;
 }
 
-void ProjectSatellite(Simulation& sim, double distance)
+// The satellite's place on the picture.
+Projected ProjectSatellite(Simulation& sim, double distance)
 {
     SimState& state = sim.state;
     state.PosRadius = distance * state.KmScale;
     state.PosLat = Radians(state, state.SatDeg);
     XYProjection(sim);
+    return StoredProjection(state);
 }
 
-void PlaceMarker(Simulation& sim)
+void PlaceMarker(Simulation& sim, const Projected& place)
 {
     const SimState& state = sim.state;
     Marker& marker = sim.controls.lblSat;
-    const bool canBeSeen = state.ProjZ > 0 || state.ProjDist > state.PlanetPx;
-    ShowMarker(sim, canBeSeen);
-    if (!canBeSeen) return;
-    const double fromAxis = std::sqrt(state.ProjZ * state.ProjZ + state.ProjY * state.ProjY);
-    const bool inShadow = state.ProjX > 0 && fromAxis < state.PlanetPx;
-    marker.back = inShadow ? RGB(127, 127, 127) : kWhite;
-    marker.left = state.ProjX + state.PlanetX - 2;
-    marker.top = state.ProjY + state.PlanetY + 2;
+    const bool inSight = IsInSight(place, state.PlanetPx);
+    ShowMarker(sim, inSight);
+    if (!inSight) return;
+    marker.back = IsInShadow(place, state.PlanetPx) ? RGB(127, 127, 127) : kWhite;
+    marker.left = place.x + state.PlanetX - 2;
+    marker.top = place.y + state.PlanetY + 2;
 }
 
 void WorkOutPlace(SimState& state)
 {
     state.SatRA = OneTurnCorrectedAbove(state.SatDeg + state.RAAN + 90);
-    state.SatLon = OneTurnCorrectedAbove(state.SatRA + 90 - state.PlanetRotDeg);
+    const double longitude = state.SatRA + 90 - state.PlanetRotDeg;
+    state.SatLon = OneTurnCorrectedAbove(Snapped(Snapped(longitude, 0, 360), 360, 360));
     if (state.ProjPlaneDist == 0) return; // the latitude has no value and stays
     // The second term takes out the equator's tilt, so that an orbit on it reads 0 all round.
-    state.SatLat = 180 * std::atan(state.ProjPlaneZ / state.ProjPlaneDist) / state.Pi +
-                   state.PlanetTilt * std::cos(state.PosLat);
+    const double latitude = 180 * std::atan(state.ProjPlaneZ / state.ProjPlaneDist) / state.Pi +
+                            state.PlanetTilt * std::cos(state.PosLat);
+    state.SatLat = Snapped(latitude, 0, 180);
 }
 
 void StepSatellite(Simulation& sim, int direction)
@@ -123,8 +126,7 @@ void SatControl(Simulation& sim)
     WorkOutMotion(state, distance);
     SetInterval(sim, tmrSat, kMillisecondsPerSecond * state.SecPerDeg);
     ShowMotion(sim, distance);
-    ProjectSatellite(sim, distance);
-    PlaceMarker(sim);
+    PlaceMarker(sim, ProjectSatellite(sim, distance));
     WorkOutPlace(state);
     ShowPosition(sim);
     if (SatelliteFlies(state.OrbitMode)) RotatingPlanet(sim);

@@ -1,5 +1,6 @@
 #include "qt/control_mirror.h"
 
+#include "app/tolerance.h"
 #include "qt/appearance.h"
 #include "qt/face_button.h"
 #include "qt/help_pane_widget.h"
@@ -38,7 +39,7 @@ int PixelAt(double coordinate, double scaleStart, double scaleLength, int pixels
 {
     constexpr double kFarOutside = 10000;
     const double place = (coordinate - scaleStart) * pixels / scaleLength;
-    return qRound(std::clamp(place, -kFarOutside, kFarOutside));
+    return static_cast<int>(SettledFloor(std::clamp(place, -kFarOutside, kFarOutside) + 0.5));
 }
 
 } // namespace

@@ -130,10 +130,8 @@ void Plot(Simulation& sim, const OrbitPath& path)
     const SimState& state = sim.state;
     DrawingSurface& picture = sim.picSelvane;
     for (const auto& [radius, point] : path) {
-        const bool inShadow =
-            point.x > 0 && std::sqrt(point.y * point.y + point.z * point.z) < state.PlanetPx;
-        picture.ForeColor = inShadow ? RGB(127, 127, 127) : kWhite;
-        if (point.z > 0 || point.dist > state.PlanetPx)
+        picture.ForeColor = IsInShadow(point, state.PlanetPx) ? RGB(127, 127, 127) : kWhite;
+        if (IsInSight(point, state.PlanetPx))
             picture.PSet(point.x + state.PlanetX, point.y + state.PlanetY);
     }
 }
@@ -158,14 +156,12 @@ void SetRate(SimState& state, double radius)
     state.SecPerDeg = 1 / state.AngRate;
 }
 
-// The shadow is a cylinder of the planet's radius behind the planet. The rate stays as at the last
-// sample.
+// The rate stays as at the last sample.
 void SumEclipse(SimState& state, const OrbitPath& path)
 {
     state.EclipseSec = 0;
     for (const auto& [radius, point] : path) {
-        if (!(point.x > 0)) continue;
-        if (!(point.y * point.y + point.z * point.z < state.PlanetPx * state.PlanetPx)) continue;
+        if (!IsInShadow(point, state.PlanetPx)) continue;
         SetRate(state, radius);
         state.EclipseSec += state.SecPerDeg;
     }

@@ -2,6 +2,7 @@
 
 #include "app/number_text.h"
 #include "app/simulation.h"
+#include "app/tolerance.h"
 
 #include <cmath>
 
@@ -15,7 +16,7 @@ namespace {
 void DayHalf(const SimState& state, DrawingSurface& picture)
 {
     const double pi = state.Pi;
-    const double helio = state.HelioRad;
+    const double helio = Snapped(Snapped(state.HelioRad, 0.5 * pi, pi), 1.5 * pi, pi);
     const auto sector = [&](double start, double end) {
         picture.Circle(state.PlanetX, state.PlanetY, state.PlanetPx, state.PlanetLight, start, end);
     };

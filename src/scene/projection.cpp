@@ -1,6 +1,7 @@
 #include "scene/projection.h"
 
 #include "app/simulation.h"
+#include "app/tolerance.h"
 
 #include <cmath>
 #include <numbers>
@@ -10,7 +11,8 @@ namespace selvane {
 namespace {
 
 // The angle of (across, along) by the two-branch rule: from -Pi / 2 up to 3 Pi / 2, and Pi / 2
-// where across is exactly 0.
+// where across is exactly 0. No tolerance: a number next to 0 gives the angle of its own quadrant,
+// and whatever its sign, the point comes out in the same place.
 double TwoBranchAngle(double across, double along)
 {
     double angle = across == 0 ? std::numbers::pi / 2 : std::atan(along / across);
@@ -33,7 +35,7 @@ Projection::Projection(Turn turn)
 
 bool Projection::IsSurelyBehind(double radius, double cosInPlane, double sinInPlane) const
 {
-    const double margin = 1e-6 * radius;
+    const double margin = 1000 * kTolerance * radius;
     const double x1 = radius * cosInPlane * cosY_;
     const double y1 = radius * sinInPlane;
     const double z1 = radius * cosInPlane * sinY_;
@@ -64,9 +66,10 @@ Projected Projection::operator()(double radius, double cosInPlane, double sinInP
 
     const double rho2 = std::sqrt(y2 * y2 + z1 * z1);
     point.angle2 = TwoBranchAngle(y2, z1);
-    point.x = x2;
-    point.y = rho2 * std::cos(point.angle2 + turn_.aboutX);
-    point.z = rho2 * std::sin(point.angle2 + turn_.aboutX);
+    const double size = std::fabs(radius);
+    point.x = Snapped(x2, 0, size);
+    point.y = Snapped(rho2 * std::cos(point.angle2 + turn_.aboutX), 0, size);
+    point.z = Snapped(rho2 * std::sin(point.angle2 + turn_.aboutX), 0, size);
     point.dist = std::sqrt(point.x * point.x + point.y * point.y);
     return point;
 }
@@ -74,6 +77,17 @@ Projected Projection::operator()(double radius, double cosInPlane, double sinInP
 Projected Project(double radius, double inPlane, Turn turn)
 {
     return Projection(turn)(radius, inPlane);
+}
+
+bool IsInSight(const Projected& point, double planetRadius)
+{
+    return point.z > 0 || Snapped(point.dist, planetRadius, planetRadius) > planetRadius;
+}
+
+bool IsInShadow(const Projected& point, double planetRadius)
+{
+    const double fromAxis = std::sqrt(point.y * point.y + point.z * point.z);
+    return point.x > 0 && Snapped(fromAxis, planetRadius, planetRadius) < planetRadius;
 }
 
 void LoadNegativeView(Simulation& sim)
@@ -92,6 +106,12 @@ void StoreProjected(SimState& state, const Projected& point)
     state.ProjPlaneZ = point.planeZ;
     state.ProjAngle1 = point.angle1;
     state.ProjAngle2 = point.angle2;
+}
+
+Projected StoredProjection(const SimState& state)
+{
+    return {state.ProjX,         state.ProjY,      state.ProjZ,      state.ProjDist,
+            state.ProjPlaneDist, state.ProjPlaneZ, state.ProjAngle1, state.ProjAngle2};
 }
 
 void XYProjection(Simulation& sim)

@@ -17,6 +17,8 @@ struct Turn
     bool operator==(const Turn&) const = default;
 };
 
+// On the screen a coordinate next to 0 is exactly 0 (tolerance.h), so that the sign of x, y and z
+// is that of exact arithmetic.
 struct Projected
 {
     double x, y, z;   // on the screen; z > 0: in front of the plane through the centre
@@ -40,7 +42,7 @@ public:
     Projected operator()(double radius, double cosInPlane, double sinInPlane) const;
 
     // True only where the projected point has z < 0, told by plain rotation matrices at a fraction
-    // of the cost. False wherever rounding or the two-branch rule could decide otherwise.
+    // of the cost. False wherever the tolerance or the two-branch rule could decide otherwise.
     bool IsSurelyBehind(double radius, double cosInPlane, double sinInPlane) const;
 
 private:
@@ -50,6 +52,14 @@ private:
 };
 
 Projected Project(double radius, double inPlane, Turn turn);
+
+// Whether a point can be seen past a planet of that radius in the centre: it lies in front of the
+// plane through the centre, or outside the disc. A point on the limb itself lies behind it.
+bool IsInSight(const Projected& point, double planetRadius);
+
+// Whether it lies in the planet's shadow: a cylinder of the planet's radius along +x, the Sun being
+// on the -x side. A point on the cylinder's surface is lit.
+bool IsInShadow(const Projected& point, double planetRadius);
 
 // The orbit. Reads PosRadius, PosLat, PosLon, PosRoll and the number in txtView.
 // Writes ViewDeg, ViewRad (minus that number) and the outputs ProjX to ProjAngle2.
@@ -65,8 +75,9 @@ void XYProjectionD(Simulation& sim);
 // writes the outputs.
 void XYProjectionD0(Simulation& sim);
 
-// Writes the outputs ProjX to ProjAngle2.
+// The outputs ProjX to ProjAngle2, written and read.
 void StoreProjected(SimState& state, const Projected& point);
+Projected StoredProjection(const SimState& state);
 
 // Sets ViewDeg and ViewRad to minus the number in txtView.
 void LoadNegativeView(Simulation& sim);

@@ -2,6 +2,7 @@
 
 #include "app/number_text.h"
 #include "app/simulation.h"
+#include "app/tolerance.h"
 #include "scene/orbit.h"
 #include "scene/planet_disc.h"
 #include "scene/projection.h"
@@ -64,15 +65,17 @@ void Meridian(Simulation& sim, RememberedRing& ring, double roll)
 // corrected below 0.
 void TurnPlanet(SimState& state)
 {
-    state.PlanetRotDeg += state.RotPerStep * state.SatDir;
-    if (state.PlanetRotDeg > 360) state.PlanetRotDeg -= 360;
+    const double step = state.RotPerStep * state.SatDir;
+    const double size = std::fabs(step); // a larger one could hold a slow planet at the mark
+    const double turned = Snapped(Snapped(state.PlanetRotDeg + step, 0, size), 360, size);
+    state.PlanetRotDeg = turned > 360 ? turned - 360 : turned;
 }
 
 void ShowClock(Simulation& sim)
 {
     const SimState& state = sim.state;
     const double time = state.PlanetRotDeg * state.PlanetDay; // degrees x hours
-    const double hours = std::floor(time / 360);
+    const double hours = SettledFloor(time / 360);
     const double minutes = std::fmod(RoundHalfEven(time / 6), 60);
     const char* name = state.PlanetName == "Earth" ? "GMT" : "Planet Time";
     SetCaption(sim, lblOutput(14),

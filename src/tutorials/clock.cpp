@@ -1,6 +1,7 @@
 #include "tutorials/clock.h"
 
 #include "app/simulation.h"
+#include "app/tolerance.h"
 #include "tutorials/solar_days.h"
 #include "tutorials/strokes.h"
 
@@ -129,7 +130,7 @@ EarthOnDial PlaceOnDial(int daysGone, int daySeconds, double gmtOffset)
     earth.orbitRad = earth.orbitDeg * pi / 180;
     earth.x = -kPathRadius * std::cos(earth.orbitRad);
     earth.y = -kPathRadius * std::sin(earth.orbitRad);
-    earth.spinDeg = std::floor(earth.orbitDeg + 360.0 * daySeconds / 24 / 3600);
+    earth.spinDeg = SettledFloor(earth.orbitDeg + 360.0 * daySeconds / 24 / 3600);
     double offsetDeg = -gmtOffset * 360 / 24;
     if (!std::isfinite(offsetDeg)) offsetDeg = -std::fmod(gmtOffset, 24) * 360 / 24;
     earth.spinRad = (offsetDeg + earth.spinDeg) * pi / 180;
