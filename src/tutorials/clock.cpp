@@ -131,9 +131,9 @@ EarthOnDial PlaceOnDial(int daysGone, int daySeconds, double gmtOffset)
     earth.x = -kPathRadius * std::cos(earth.orbitRad);
     earth.y = -kPathRadius * std::sin(earth.orbitRad);
     earth.spinDeg = SettledFloor(earth.orbitDeg + 360.0 * daySeconds / 24 / 3600);
-    double offsetDeg = -gmtOffset * 360 / 24;
-    if (!std::isfinite(offsetDeg)) offsetDeg = -std::fmod(gmtOffset, 24) * 360 / 24;
-    earth.spinRad = (offsetDeg + earth.spinDeg) * pi / 180;
+    // Whole days turn nothing, and an angle of many turns would leave no digits for the lines.
+    const double hours = std::fabs(gmtOffset) > 24 ? std::fmod(gmtOffset, 24) : gmtOffset;
+    earth.spinRad = (-hours * 360 / 24 + earth.spinDeg) * pi / 180;
     return earth;
 }
 

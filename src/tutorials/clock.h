@@ -37,7 +37,8 @@ struct EarthOnDial
     double spinRad; // rotation at GMT
 };
 
-// Any finite offset, in hours, gives finite angles.
+// The offset in hours; one of more than a day, however large, turns the Earth like its part of a
+// day.
 EarthOnDial PlaceOnDial(int daysGone, int daySeconds, double gmtOffset);
 
 } // namespace selvane
