@@ -36,6 +36,18 @@ std::optional<Expectation> ParseExpectation(std::string_view line)
     return expectation;
 }
 
+// The N of "N * action", cut off the line, at least 2; 1 where none stands there.
+int TakeTimes(std::string_view& line)
+{
+    constexpr std::string_view kTimes = " * ";
+    int times = 0;
+    const auto [end, error] = std::from_chars(line.data(), line.data() + line.size(), times);
+    const auto digits = static_cast<std::size_t>(end - line.data());
+    if (error != std::errc{} || times < 2 || !line.substr(digits).starts_with(kTimes)) return 1;
+    line.remove_prefix(digits + kTimes.size());
+    return times;
+}
+
 bool SameStroke(std::string_view one, std::string_view other)
 {
     constexpr double kTwoDecimals = 0.0101;
@@ -76,8 +88,10 @@ Story ReadStory(const std::filesystem::path& file)
         if (number == 1 && !line.starts_with("# "))
             ADD_FAILURE_AT(file.c_str(), number) << "the first line must say what the user sees";
         if (replay::IsRemark(line)) continue;
-        if (const auto action = replay::ParseAction(line))
-            story.lines.push_back({number, *action});
+        std::string_view once = line;
+        const auto times = static_cast<std::size_t>(TakeTimes(once));
+        if (const auto action = replay::ParseAction(once))
+            story.lines.insert(story.lines.end(), times, {number, *action});
         else if (const auto expectation = ParseExpectation(line))
             story.lines.push_back({number, *expectation});
         else

@@ -1,5 +1,5 @@
-// Scenarios: user stories as text. The actions of a replay script, with what is expected of the
-// program's state between them.
+// Scenarios: user stories as text. The actions of a replay script, "N * action" for N times the
+// same, with what is expected of the program's state between them.
 #pragma once
 
 #include "replay/action.h"
