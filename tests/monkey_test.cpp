@@ -1,5 +1,5 @@
 // A monkey plays with the program, and what must always hold holds. A run that fails shrinks itself
-// to a short script for replay.
+// to a short script for replay, which becomes a scenario.
 //
 // SELVANE_MONKEY_ACTIONS=1000000 core_tests --gtest_filter='Monkey.*'    the long run
 #include "replay/invariants.h"
@@ -14,8 +14,6 @@
 namespace selvane::replay {
 namespace {
 
-// Seeds that once failed; they are played first.
-constexpr std::uint64_t kSeedsThatFailed[] = {1};
 constexpr int kActionsASeed = 400;
 
 std::string PlayOnTheCore(const Script& script)
@@ -35,11 +33,6 @@ void PlaySeed(std::uint64_t seed)
     Script script;
     for (int each = 0; each < kActionsASeed; ++each) script.push_back(monkey.Next());
     ASSERT_EQ(ShortestFailure(PlayOnTheCore, script), "") << "seed " << seed;
-}
-
-TEST(Monkey, SeedsThatFailedOnce)
-{
-    for (const std::uint64_t seed : kSeedsThatFailed) PlaySeed(seed);
 }
 
 TEST(Monkey, NewSeeds)

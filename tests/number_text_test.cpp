@@ -158,17 +158,23 @@ TEST(NumberText, PatternsAgreeWithTheLibraryAwayFromTies)
     }
 }
 
-TEST(NumberText, NoLocaleReachesIt)
+class NumberTextIn : public testing::TestWithParam<const char*>
 {
-    for (const char* locale : {"de_DE.UTF-8", "fr_FR.UTF-8", "tr_TR.UTF-8"}) {
-        if (!std::setlocale(LC_ALL, locale)) continue; // not installed on this machine
-        EXPECT_EQ(PlainNumber(1234.5), "1234.5") << locale;
-        EXPECT_EQ(FixedNumber(2.08, 2), "2.08") << locale;
-        EXPECT_EQ(PrefixNumber("0.5"), 0.5) << locale;
-        EXPECT_EQ(PrefixNumber("1,5"), 1) << locale;
-    }
-    std::setlocale(LC_ALL, "C");
+    void TearDown() override { std::setlocale(LC_ALL, "C"); }
+};
+
+TEST_P(NumberTextIn, TheLocaleDoesNotReachIt)
+{
+    if (!std::setlocale(LC_ALL, GetParam()))
+        GTEST_SKIP() << GetParam() << " is not installed on this machine";
+    EXPECT_EQ(PlainNumber(1234.5), "1234.5");
+    EXPECT_EQ(FixedNumber(2.08, 2), "2.08");
+    EXPECT_EQ(PrefixNumber("0.5"), 0.5);
+    EXPECT_EQ(PrefixNumber("1,5"), 1);
 }
+
+INSTANTIATE_TEST_SUITE_P(Locales, NumberTextIn,
+                         testing::Values("de_DE.UTF-8", "fr_FR.UTF-8", "tr_TR.UTF-8"));
 
 } // namespace
 } // namespace selvane

@@ -2,10 +2,12 @@
 #include "rich_text/character_sets.h"
 #include "rich_text/reader.h"
 
+#include <algorithm>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -547,24 +549,29 @@ TEST(RichTextLimits, ReadingStopsAndKeepsWhatItHas)
     EXPECT_EQ(Read(fonts + "}x").fonts.size(), 65'536u);
 }
 
-double SecondsToRead(const std::string& bytes)
+double LeastSecondsToRead(const std::string& bytes, int runs)
 {
-    const std::clock_t start = std::clock(); // the processor's time: the machine may be busy
-    EXPECT_FALSE(Refusal(bytes));
-    return static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
+    std::clock_t least = std::numeric_limits<std::clock_t>::max();
+    for (int run = 0; run < runs; ++run) {
+        const std::clock_t start = std::clock(); // the processor's time: the machine may be busy
+        EXPECT_FALSE(Refusal(bytes));
+        least = std::min(least, std::clock() - start);
+    }
+    return static_cast<double>(least) / CLOCKS_PER_SEC;
 }
 
-// Eight times the size may take sixteen times as long, whatever the document is full of.
+// Sixty-four times the size may take twice as much, not sixty-four times as much, for each byte.
+// The best of some runs counts, as a shorter one cannot be had by chance.
 TEST(RichTextLimits, TimeGrowsWithTheSize)
 {
     for (const char* part :
          {"{\\b orbit} \\i and\\i0  \\u960?\\'e9\\par\n", "\\trowd\\cellx9 a\\cell\\row ",
           "{{{}}}{a}", "{\\listtext 1.}\\ls1 a\\par", "\\tx1\\tx2{\\pard a}", "{\\pict 00}a",
           "{\\shp{\\shpinst{\\shptxt a}}}b", "{\\field{\\fldinst HYPERLINK a}{\\fldrslt b}}"}) {
-        const std::size_t times = (std::size_t{1} << 18) / std::string_view(part).size();
-        const double small = SecondsToRead("{\\rtf1 " + Repeat(part, times) + "}");
-        const double large = SecondsToRead("{\\rtf1 " + Repeat(part, 8 * times) + "}");
-        EXPECT_LT(large, 16 * small + 0.1) << part;
+        const std::size_t times = (std::size_t{1} << 13) / std::string_view(part).size();
+        const double small = LeastSecondsToRead("{\\rtf1 " + Repeat(part, times) + "}", 9);
+        const double large = LeastSecondsToRead("{\\rtf1 " + Repeat(part, 64 * times) + "}", 2);
+        EXPECT_LT(large, 2 * 64 * small) << part;
     }
 }
 

@@ -1,6 +1,6 @@
 // A monkey on the real window: whatever it does there, by mouse, wheel and keys, comes to the same
 // as the same actions without a screen, and the screen shows it. A run that fails shrinks itself to
-// a short script.
+// a short script, which becomes a scenario.
 //
 // QT_QPA_PLATFORM=offscreen SELVANE_MONKEY_ACTIONS=100000 window_tests
 // --gtest_filter='WindowMonkey.*'
@@ -16,8 +16,6 @@
 namespace selvane {
 namespace {
 
-// Seeds that once failed; they are played first.
-constexpr std::uint64_t kSeedsThatFailed[] = {1};
 constexpr std::size_t kGesturesASeed = 400;
 constexpr std::size_t kGesturesARecord = 8; // the screen is compared each time, all records seldom
 
@@ -53,11 +51,6 @@ void PlaySeed(std::uint64_t seed)
     replay::Script script;
     while (script.size() < kGesturesASeed) script.push_back(monkey.Next());
     ASSERT_EQ(replay::ShortestFailure(PlayOnTheWindow, script), "") << "seed " << seed;
-}
-
-TEST(WindowMonkey, SeedsThatFailedOnce)
-{
-    for (const std::uint64_t seed : kSeedsThatFailed) PlaySeed(seed);
 }
 
 TEST(WindowMonkey, ComesToTheSameAsWithoutAScreen)

@@ -419,15 +419,18 @@ TEST_F(WindowTest, CaptionsAreTheSameInEveryLanguage)
         return all;
     };
     const QLocale before;
+    QStringList missing;
     const QStringList expected = captions();
     EXPECT_TRUE(expected.contains("Zoom"));
     for (const char* const name : {"de_DE", "fr_FR", "tr_TR", "ar_EG", "hi_IN"}) {
         QLocale::setDefault(QLocale(name));
-        std::setlocale(LC_ALL, (std::string(name) + ".UTF-8").c_str());
+        if (!std::setlocale(LC_ALL, (std::string(name) + ".UTF-8").c_str())) missing += name;
         EXPECT_EQ(captions(), expected) << name;
     }
     QLocale::setDefault(before);
     std::setlocale(LC_ALL, "C");
+    if (!missing.isEmpty())
+        GTEST_SKIP() << "not installed on this machine: " << missing.join(' ').toStdString();
 }
 
 TEST_F(WindowTest, AScreenReaderIsToldEveryControl)
