@@ -83,7 +83,7 @@ TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
     const AboutWindow& box = desk.sim.windows.frmAbout;
     EXPECT_EQ(box.caption, "About Selvane");
     EXPECT_EQ(box.lblTitle, "Selvane");
-    EXPECT_EQ(box.lblVersion, "Version 2.1.0");
+    EXPECT_EQ(box.lblVersion, "Version " SELVANE_VERSION);
     EXPECT_TRUE(box.lblDisclaimer.ends_with("\n\rhttps://selvane.example.org"));
     frmAbout::cmdOK_Click(desk.sim);
     EXPECT_FALSE(IsLoaded(desk.sim, WindowId::About));

@@ -144,7 +144,7 @@ TEST(Replay, ChangesAreShownAgainstTheLastDump)
     EXPECT_EQ(DumpOf(outcome.output, 3), "@ 3 click btnPlay\n! btnPlay is hidden\n");
     EXPECT_EQ(DumpOf(outcome.output, 4),
               "@ 4 menu mnAbout\nabout.caption=About Selvane\nabout.title=Selvane\n"
-              "about.version=Version 2.1.0\nwindow.active=about\n");
+              "about.version=Version " SELVANE_VERSION "\nwindow.active=about\n");
     // What is gone stands without its sign.
     EXPECT_TRUE(DumpOf(outcome.output, 5)
                     .starts_with("@ 5 about close\nabout.caption\nabout.title\nabout.version\n"));

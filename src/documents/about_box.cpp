@@ -12,8 +12,6 @@ namespace {
 using enum AboutControl;
 using enum Weight;
 
-constexpr int kMajor = 2, kMinor = 1, kRevision = 0;
-
 constexpr std::string_view kWebAddress = "https://selvane.example.org";
 constexpr std::string_view kMailLink = "mailto:contact@selvane.example.org";
 constexpr std::string_view kNotice =
@@ -106,8 +104,7 @@ void Form_Load(Simulation& sim)
     AboutWindow& box = sim.windows.frmAbout;
     const std::string title{kApplicationTitle};
     box.caption = "About " + title;
-    box.lblVersion = "Version " + std::to_string(kMajor) + "." + std::to_string(kMinor) + "." +
-                     std::to_string(kRevision);
+    box.lblVersion = "Version " SELVANE_VERSION; // the project's, by the build
     box.lblTitle = title;
     box.lblDisclaimer = std::string{kNotice} + "\n\r" + std::string{kWebAddress};
 }

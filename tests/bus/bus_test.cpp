@@ -398,7 +398,7 @@ TEST_F(Bus, TheUserGuideIsReadAndTheAboutBoxCloses)
     }
     Press(ATSPI_ROLE_MENU_ITEM, "About Selvane ...");
     EXPECT_TRUE(ComesTrue([&] { return The(ATSPI_ROLE_DIALOG, "About Selvane").IsShown(); }));
-    ExpectReadOut("Version 2.1.0");
+    ExpectReadOut("Version " SELVANE_VERSION);
     PressButton("OK");
     EXPECT_TRUE(ComesTrue([&] { return All(ATSPI_ROLE_DIALOG).empty(); }));
 }
