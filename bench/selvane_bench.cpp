@@ -1,9 +1,11 @@
 // Benchmarks of a frame and of its parts on the real picture, and of making the screen match. At
 // the end the ratio of a whole default frame to the clearing of its picture, both of this run.
+#include "app/handlers.h"
 #include "program/program.h"
 #include "qt/appearance.h"
 #include "qt/qt_platform.h"
 #include "qt/shell.h"
+#include "qt/text_masks.h"
 #include "scene/orbit.h"
 #include "scene/projection.h"
 #include "scene/rotating_globe.h"
@@ -26,18 +28,34 @@ namespace selvane {
 
 namespace {
 
-// A program on a picture of its own, as it stands after the first showing.
+// A program, with painters for its pictures, as it stands after the first showing.
 struct Scene
 {
     QtPlatform platform;
-    PictureSurface picSelvane{kPicSelvane}, picDemo{kPicDemo};
-    Simulation sim{picSelvane, picDemo, platform, TheWiring()};
+    Simulation sim;
+    QtTextMasks texts;
+    raster::Painter picSelvane = PainterOf(kPicSelvane), picDemo = PainterOf(kPicDemo);
 
     explicit Scene(double scale)
     {
-        picSelvane.SetDeviceScale(scale);
-        Load(sim);
-        FirstShowing(sim);
+        sim.now = platform.Now();
+        LoadMainWindow(sim);
+        ShowMainWindow(sim);
+        CarryOut(sim, platform);
+        picSelvane.SetScale(scale, texts);
+        picDemo.SetScale(scale, texts);
+        Paint();
+    }
+
+    void Paint()
+    {
+        picSelvane.Paint(sim.picSelvane.drawing, texts);
+        picDemo.Paint(sim.picDemo.drawing, texts);
+    }
+
+    static raster::Painter PainterOf(const PictureRow& row)
+    {
+        return {row.place.width, row.place.height, row.background};
     }
 };
 
@@ -46,15 +64,21 @@ double ScaleOf(const benchmark::State& state)
     return static_cast<double>(state.range(0)) / 100;
 }
 
-// The whole of a picture, as a frame that can keep nothing of the one before has to.
-void Clear(benchmark::State& state)
+// Every pixel of a picture, once.
+void ClearPicture(benchmark::State& state, const PictureRow& row, double scale)
 {
-    PictureSurface picture(kPicSelvane);
-    picture.SetDeviceScale(ScaleOf(state));
+    const int width = qRound(row.place.width * scale), height = qRound(row.place.height * scale);
+    std::vector<raster::Pixel> pixels(static_cast<std::size_t>(width * height));
+    const raster::Canvas canvas{pixels.data(), width, height};
     for (auto turn : state) {
-        picture.Cls();
+        raster::FillBox(canvas, canvas.clip, raster::PixelOf(row.background));
         benchmark::ClobberMemory();
     }
+}
+
+void Clear(benchmark::State& state)
+{
+    ClearPicture(state, kPicSelvane, ScaleOf(state));
 }
 
 // In flight: the globe has turned since the frame before.
@@ -62,14 +86,36 @@ void Frame(benchmark::State& state)
 {
     Scene scene(ScaleOf(state));
     Tick(scene.sim, tmrSat);
+    for (auto turn : state) {
+        RotatingPlanet(scene.sim);
+        scene.Paint();
+    }
+}
+
+// The strokes of a frame alone, and the painting of a picture that has nothing of the one before.
+void Strokes(benchmark::State& state)
+{
+    Scene scene(1);
     for (auto turn : state) RotatingPlanet(scene.sim);
+}
+
+void PaintAll(benchmark::State& state)
+{
+    Scene scene(ScaleOf(state));
+    for (auto turn : state) {
+        scene.picSelvane.Paint({}, scene.texts);
+        scene.picSelvane.Paint(scene.sim.picSelvane.drawing, scene.texts);
+    }
 }
 
 // One tick of tmrSat but for the way in.
 void Step(benchmark::State& state)
 {
     Scene scene(ScaleOf(state));
-    for (auto turn : state) Tick(scene.sim, tmrSat);
+    for (auto turn : state) {
+        Tick(scene.sim, tmrSat);
+        scene.Paint();
+    }
 }
 
 // 361 places of an orbit's plane.
@@ -112,11 +158,7 @@ constexpr struct
 
 void TutorialClear(benchmark::State& state)
 {
-    Scene scene(1);
-    for (auto turn : state) {
-        scene.picDemo.Cls();
-        benchmark::ClobberMemory();
-    }
+    ClearPicture(state, kPicDemo, 1);
 }
 
 void TutorialScene(benchmark::State& state)
@@ -124,7 +166,11 @@ void TutorialScene(benchmark::State& state)
     Scene scene(1);
     const auto& tutorial = kTutorialScenes[state.range(0)];
     state.SetLabel(tutorial.name);
-    for (auto turn : state) tutorial.draw(scene.sim);
+    for (auto turn : state) {
+        scene.picDemo.Paint({}, scene.texts);
+        tutorial.draw(scene.sim);
+        scene.Paint();
+    }
 }
 
 // A move of a bar until the picture is on the screen, with the time that one in a hundred exceeds.
@@ -157,6 +203,8 @@ void BarToPicture(benchmark::State& state)
 
 BENCHMARK(Clear)->ArgName("scale")->Arg(100)->Arg(150)->Arg(200);
 BENCHMARK(Frame)->ArgName("scale")->Arg(100)->Arg(150)->Arg(200);
+BENCHMARK(Strokes);
+BENCHMARK(PaintAll)->ArgName("scale")->Arg(100)->Arg(200);
 BENCHMARK(Step)->ArgName("scale")->Arg(100)->Arg(200);
 BENCHMARK(ProjectOrbit);
 BENCHMARK(MatchUnchanged);

@@ -36,7 +36,7 @@ void CheckAgainstTheLibrary(const std::string& text)
     const bool finite = std::isfinite(other);
     const bool whole = finite && *end == 0 && end != text.c_str();
     Require(PrefixNumber(text) == (finite ? other : 0), "a prefix that is another number");
-    Require(WholeNumberText(text).has_value() == whole, "a whole text is a number, or is none");
+    Require(StrictNumber(text).has_value() == whole, "a whole text is a number, or is none");
 }
 
 void CheckNumberText(std::string_view text)
@@ -44,7 +44,7 @@ void CheckNumberText(std::string_view text)
     const double number = PrefixNumber(text);
     Require(std::isfinite(number), "a prefix that is no number");
     CheckAgainstTheLibrary(std::string(text));
-    if (const auto whole = WholeNumberText(text))
+    if (const auto whole = StrictNumber(text))
         Require(*whole == number, "the whole text and its prefix differ");
     const std::string plain = PlainNumber(number);
     Require(IsPlain(plain), plain);

@@ -9,6 +9,7 @@
 namespace {
 
 using namespace selvane;
+using namespace selvane::rich_text;
 
 bool IsUtf8Boundary(std::string_view text, std::size_t at)
 {

@@ -6,8 +6,6 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <future>
-#include <memory>
 #include <thread>
 
 int main(int argc, char** argv)
@@ -16,15 +14,11 @@ int main(int argc, char** argv)
     selvane::PrepareApplication();
     selvane::ChooseWorkingFolder(argv[0]);
     selvane::QtPlatform platform;
-    // The toolkit takes its time to start, and so does the bus over which the first window asks for
-    // assistive technology.
-    std::future painting = std::async(std::launch::async, [&platform] {
-        return std::make_unique<selvane::PaintedSimulation>(platform);
-    });
     QApplication application(argc, argv);
+    // The first window asks for assistive technology over the bus, which takes its time to answer.
     const std::jthread connecting([] { QDBusConnection::sessionBus(); });
     selvane::SetUpApplication(application);
-    selvane::Shell shell(painting.get(), selvane::Shell::Opens::PictureFirst);
+    selvane::Shell shell(platform);
     shell.Show();
     return QApplication::exec();
 }

@@ -154,21 +154,20 @@ TEST(ControlTable, NoNameStandsTwice)
     }
 }
 
-// What the surfaces hold once the window is loaded and nothing has been drawn.
+// What the pictures hold once the window is loaded and nothing has been drawn.
 TEST(ControlTable, PicturesAtLoad)
 {
-    replay::RecordingSurface main(800, 600), tutorial(400, 300);
-    replay::ScriptedPlatform platform;
-    Simulation sim(main, tutorial, platform, TheWiring());
-    Load(sim);
-    EXPECT_EQ(main.FillStyle, Fill::Solid);
-    EXPECT_EQ(tutorial.ForeColor, kBlack);
-    EXPECT_EQ(tutorial.FillColor, kBlack);
-    for (const DrawingSurface* picture : {&sim.picSelvane, &sim.picDemo}) {
+    Simulation sim;
+    LoadMainWindow(sim);
+    EXPECT_EQ(sim.picSelvane.FillStyle, Fill::Solid);
+    EXPECT_EQ(sim.picDemo.ForeColor, kBlack);
+    EXPECT_EQ(sim.picDemo.FillColor, kBlack);
+    for (const Picture* picture : {&sim.picSelvane, &sim.picDemo}) {
         EXPECT_EQ(picture->ScaleLeft, -picture->Width / 2);
         EXPECT_EQ(picture->ScaleTop, picture->Height / 2);
         EXPECT_EQ(picture->ScaleWidth, picture->Width);
         EXPECT_EQ(picture->ScaleHeight, -picture->Height);
+        EXPECT_TRUE(picture->drawing.Strokes().empty());
     }
 }
 

@@ -14,6 +14,8 @@
 #include <sstream>
 
 namespace selvane {
+
+using namespace rich_text;
 namespace {
 
 using replay::Player;
@@ -115,9 +117,9 @@ void Play(Player& player, const std::string& actions)
 std::vector<std::string> PictureTexts(const Player& player)
 {
     std::vector<std::string> texts;
-    for (const replay::Stroke& stroke : player.TutorialPicture().Strokes())
-        if (stroke.kind == replay::StrokeKind::text)
-            texts.push_back(Evened(player.TutorialPicture().TextOf(stroke)));
+    const raster::Drawing& drawing = player.Program().picDemo.drawing;
+    for (const raster::Stroke& stroke : replay::Of(drawing, raster::StrokeKind::Text))
+        texts.push_back(Evened(drawing.TextOf(stroke)));
     return texts;
 }
 

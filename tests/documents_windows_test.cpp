@@ -1,4 +1,6 @@
 // The user guide and the about box without their windows: what a click loads, opens or starts.
+#include "app/help_pane.h"
+#include "documents/system_information.h"
 #include "replay/stage.h"
 
 #include <gtest/gtest.h>
@@ -64,13 +66,6 @@ private:
     std::string opened_;
 };
 
-struct Desk
-{
-    replay::RecordingSurface pictures[2]{{800, 600}, {400, 300}};
-    Machine machine;
-    Simulation sim{pictures[0], pictures[1], machine, TheWiring()};
-};
-
 using Strings = std::vector<std::string>;
 const std::string kUnavailable = "Selvane: System Information Is Unavailable At This Time";
 
@@ -90,55 +85,93 @@ TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
     EXPECT_EQ(box.caption, "");
 }
 
-TEST(DocumentLinks, LeadToADocumentOfTheFolderInTheirOwnPane)
+TEST(DocumentLinks, LeadToADocumentOfTheFolderInTheirOwnPaneOrToTheWeb)
 {
     Stage desk;
     mnUserGuide_Click(desk.sim);
     const std::string &guide = desk.sim.windows.frmUserGuide.txtHelp.document,
                       &main = desk.sim.controls.txtHelp.document;
-    FollowDocumentLink(desk.sim, WindowId::UserGuide, "Energy.rtf");
-    FollowDocumentLink(desk.sim, WindowId::Main, "Molniya.rtf");
-    for (const char* none : {"../Energy.rtf", "Energy.txt", "Energy.rtf/"})
-        FollowDocumentLink(desk.sim, WindowId::Main, none);
-    FollowDocumentLink(desk.sim, WindowId::About, "Energy.rtf"); // it is not loaded
-    EXPECT_EQ(guide, "Energy.rtf");
-    EXPECT_EQ(main, "Molniya.rtf");
+    const auto follow = [&](WindowId window, std::string_view link) {
+        FollowLink(desk.sim, window, link);
+        CarryOut(desk.sim, desk.platform);
+    };
+    follow(WindowId::UserGuide, "ENERGY.RTF");
+    follow(WindowId::Main, "./Help%2831%29.rtf#top");
+    follow(WindowId::About, "Energy.rtf"); // it is not loaded
+    EXPECT_EQ(guide, "ENERGY.RTF");
+    EXPECT_EQ(main, "Help(31).rtf");
+    EXPECT_EQ(desk.platform.Calls(), 0U);
+
+    for (const char* none :
+         {"../Energy.rtf", "%2e%2e%2fEnergy.rtf", "Energy.txt", "Energy.rtf/", ".rtf", "C:Energy.rtf",
+          "..\\Energy.rtf", "#Energy", "file:///home/Energy.rtf", "mailto:a@example.org",
+          "javascript:1", "https:", "https://", "https://:80/a", "http://a b.example.org", "%", "%4"})
+        follow(WindowId::Main, none);
+    EXPECT_EQ(main, "Help(31).rtf");
+    EXPECT_EQ(desk.platform.Calls(), 0U);
+
+    for (const char* web : {"https://a.example.org/b?c=1", "HTTP://a.example.org", "http://u@a.org:8"}) {
+        follow(WindowId::Main, web);
+        EXPECT_EQ(desk.platform.LastCall(), std::string("open ") + web);
+    }
+}
+
+// A pane shows what was asked for last and could be read; what was asked for a pane that has been
+// emptied or closed since is forgotten.
+TEST(Documents, AreLoadedInTheOrderInWhichTheyWereAskedFor)
+{
+    Stage desk;
+    const HelpPane& pane = desk.sim.controls.txtHelp;
+    desk.platform.missing = {"Molniya.rtf"};
+    LoadDocument(desk.sim, WindowId::Main, "Energy.rtf");
+    LoadDocument(desk.sim, WindowId::Main, "Molniya.rtf");
+    EXPECT_EQ(pane.document, "Help(20).rtf");
+    CarryOut(desk.sim, desk.platform);
+    EXPECT_EQ(pane.document, "Energy.rtf");
+
+    LoadDocument(desk.sim, WindowId::Main, "SunSynch.rtf");
+    LoadDocument(desk.sim, WindowId::UserGuide, "Energy.rtf");
+    EmptyPane(desk.sim, WindowId::Main);
+    CarryOut(desk.sim, desk.platform);
+    EXPECT_EQ(pane.text, nullptr);
+    EXPECT_EQ(desk.sim.windows.frmUserGuide.txtHelp.text, nullptr) << "the guide is not open";
+    EXPECT_TRUE(desk.sim.requests.empty());
 }
 
 TEST(SystemInformation, TheFirstValueIsTakenAtItsWord)
 {
-    Desk desk;
-    desk.machine.Put(kTool, "PATH", 1, std::string("C:\\info.exe\0", 12));
-    desk.machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools");
-    desk.machine.startable = {"C:\\info.exe"};
-    StartSysInfo(desk.sim);
-    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "start C:\\info.exe"}));
-    desk.machine.startable.clear();
-    desk.machine.asked.clear();
-    StartSysInfo(desk.sim);
-    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "start C:\\info.exe", kUnavailable}));
-    desk.machine.asked.clear();
-    desk.machine.Put(kTool, "PATH", 3, "binary"); // no text: an empty path is started, and fails
-    StartSysInfo(desk.sim);
-    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "start ", kUnavailable}));
+    Machine machine;
+    machine.Put(kTool, "PATH", 1, std::string("C:\\info.exe\0", 12));
+    machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools");
+    machine.startable = {"C:\\info.exe"};
+    StartSysInfo(machine);
+    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "start C:\\info.exe"}));
+    machine.startable.clear();
+    machine.asked.clear();
+    StartSysInfo(machine);
+    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "start C:\\info.exe", kUnavailable}));
+    machine.asked.clear();
+    machine.Put(kTool, "PATH", 3, "binary"); // no text: an empty path is started, and fails
+    StartSysInfo(machine);
+    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "start ", kUnavailable}));
 }
 
 TEST(SystemInformation, TheSecondValueIsAFolderThatMustHoldTheTool)
 {
-    Desk desk;
-    desk.machine.registry[kTool] = {}; // the key is there, its value is not
-    StartSysInfo(desk.sim);
-    EXPECT_EQ(desk.machine.asked, (Strings{"key " + kTool, "key " + kToolFolder, kUnavailable}));
-    desk.machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools\\");
+    Machine machine;
+    machine.registry[kTool] = {}; // the key is there, its value is not
+    StartSysInfo(machine);
+    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "key " + kToolFolder, kUnavailable}));
+    machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools\\");
     const std::string tool = "C:\\Tools\\\\MSINFO32.EXE";
-    desk.machine.startable = {tool};
-    desk.machine.asked.clear();
-    StartSysInfo(desk.sim);
-    EXPECT_EQ(desk.machine.asked.back(), kUnavailable);
-    desk.machine.files = {tool};
-    StartSysInfo(desk.sim);
-    EXPECT_EQ(desk.machine.asked.back(), "start " + tool);
-    EXPECT_EQ(desk.machine.keysOpen, 0);
+    machine.startable = {tool};
+    machine.asked.clear();
+    StartSysInfo(machine);
+    EXPECT_EQ(machine.asked.back(), kUnavailable);
+    machine.files = {tool};
+    StartSysInfo(machine);
+    EXPECT_EQ(machine.asked.back(), "start " + tool);
+    EXPECT_EQ(machine.keysOpen, 0);
 }
 
 TEST(Registry, AValueIsReadByItsType)
@@ -161,13 +194,13 @@ TEST(Registry, AValueIsReadByItsType)
         {2, "%TEMP%", "old", "old"},
     };
     for (const Case& c : cases) {
-        Desk desk;
-        desk.machine.Put("key", "name", c.type, c.bytes);
+        Machine machine;
+        machine.Put("key", "name", c.type, c.bytes);
         std::string value = c.before;
-        EXPECT_TRUE(GetKeyValue(desk.sim, 0x80000002, "key", "name", value));
+        EXPECT_TRUE(GetKeyValue(machine, 0x80000002, "key", "name", value));
         EXPECT_EQ(value, c.after) << "type " << c.type;
-        EXPECT_FALSE(GetKeyValue(desk.sim, 0x80000002, "key", "other", value));
+        EXPECT_FALSE(GetKeyValue(machine, 0x80000002, "key", "other", value));
         EXPECT_EQ(value, "");
-        EXPECT_EQ(desk.machine.keysOpen, 0);
+        EXPECT_EQ(machine.keysOpen, 0);
     }
 }

@@ -69,10 +69,10 @@ TEST(NumberText, WholeTextAsANumber)
 {
     const std::pair<std::string_view, double> numbers[] = {
         {"7", 7}, {" 7 ", 7}, {"+1.2e4", 12000}, {"-.5", -0.5}, {"5.", 5}, {"\t9", 9}};
-    for (const auto& [text, value] : numbers) EXPECT_EQ(WholeNumberText(text), value) << text;
+    for (const auto& [text, value] : numbers) EXPECT_EQ(StrictNumber(text), value) << text;
     for (const std::string_view text : {"", " ", "5 km", "1,5", "1e", "1e400", "nan", "inf", "0x10",
                                         "5 5", ".", "-", "--5", "\xC2\xBD"})
-        EXPECT_EQ(WholeNumberText(text), std::nullopt) << text;
+        EXPECT_EQ(StrictNumber(text), std::nullopt) << text;
 }
 
 TEST(NumberText, PlainDecimals)

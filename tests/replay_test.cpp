@@ -238,7 +238,7 @@ TEST(Replay, NumbersAreWrittenAsTheLibraryWritesThem)
 
 TEST(Replay, StrokesAsText)
 {
-    RecordingSurface picture(800, 600);
+    Picture picture(kPicSelvane);
     picture.Line(1, 2, 3, 4); // goes with the Cls
     picture.Cls();
     picture.ForeColor = {1, 2, 3};
@@ -259,16 +259,16 @@ TEST(Replay, StrokesAsText)
                                      "arc 1 2 3 7,7,7 - 0 -3.14159265",
                                      "sector 1 2 3 7,7,7 - -0.5 -1.5",
                                      "text 5 6 1,2,3  A b"};
-    ASSERT_EQ(picture.Strokes().size(), std::size(nine));
+    ASSERT_EQ(picture.drawing.Strokes().size(), std::size(nine));
     for (std::size_t at = 0; at < std::size(nine); ++at)
-        EXPECT_EQ(picture.LineOf(picture.Strokes()[at], StrokeNumbers::NineDigits), nine[at]);
+        EXPECT_EQ(LineOf(picture.drawing, picture.drawing.Strokes()[at], StrokeNumbers::NineDigits), nine[at]);
     // The sum of these lines as another program's zlib gives it.
-    EXPECT_EQ(picture.LineOf(picture.Strokes()[0], StrokeNumbers::ThreeDecimals),
+    EXPECT_EQ(LineOf(picture.drawing, picture.drawing.Strokes()[0], StrokeNumbers::ThreeDecimals),
               "pset 0.100 -0.000 1,2,3");
-    EXPECT_EQ(picture.Digest(), 0xDF4D140Au);
+    EXPECT_EQ(Digest(picture.drawing), 0xDF4D140Au);
     EXPECT_EQ(Crc32(0, "123456789"), 0xCBF43926u);
     EXPECT_EQ(Crc32(Crc32(0, "1234"), "56789"), 0xCBF43926u);
-    EXPECT_EQ(RecordingSurface(1, 1).Digest(), 0u);
+    EXPECT_EQ(Digest({}), 0u);
 }
 
 } // namespace

@@ -12,6 +12,8 @@
 #include <unistd.h>
 
 namespace selvane {
+
+using namespace rich_text;
 namespace {
 
 RichText ReadWhole(const std::string& bytes)

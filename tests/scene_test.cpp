@@ -13,7 +13,7 @@
 namespace selvane {
 namespace {
 
-using replay::Stage, replay::Stroke, replay::StrokeKind;
+using raster::Stroke, raster::StrokeKind, replay::Of, replay::Stage;
 
 constexpr double kPi = std::numbers::pi;
 
@@ -52,12 +52,12 @@ Vector TruePlace(double radius, double inPlane, Turn turn)
 }
 
 // The letters of the pole markers, with '|' where the disc is painted.
-std::string MarkersRoundTheDisc(const replay::RecordingSurface& picture)
+std::string MarkersRoundTheDisc(const raster::Drawing& drawing)
 {
     std::string order;
-    for (const Stroke& stroke : picture.Strokes()) {
-        order += picture.TextOf(stroke);
-        if (stroke.kind == StrokeKind::sector && order.find('|') == std::string::npos) order += '|';
+    for (const Stroke& stroke : drawing.Strokes()) {
+        order += drawing.TextOf(stroke);
+        if (stroke.kind == StrokeKind::Sector && order.find('|') == std::string::npos) order += '|';
     }
     return order;
 }
@@ -144,7 +144,7 @@ TEST(MainPicture, DefaultFrameDotByDot)
     Stage stage;
     Tick(stage.sim, tmrSat);
     const SimState& state = stage.sim.state;
-    const std::vector<Stroke> dots = stage.picSelvane.Of(StrokeKind::pset);
+    const std::vector<Stroke> dots = Of(stage.sim.picSelvane.drawing, StrokeKind::Dot);
     std::size_t at = 0;
     int strays = 0; // dots on the rim, where rounding decides
     const auto expectNext = [&](const Vector& place, Colour colour) {
@@ -205,11 +205,11 @@ TEST(MainPicture, TheViewDecidesWhichPoleStandsBehindTheDisc)
         Stage stage;
         Type(stage.sim, txtView, view);
         Tick(stage.sim, tmrSat);
-        EXPECT_EQ(MarkersRoundTheDisc(stage.picSelvane), order) << view;
+        EXPECT_EQ(MarkersRoundTheDisc(stage.sim.picSelvane.drawing), order) << view;
         Choose(stage.sim, mnES2);
         Type(stage.sim, txtView, view);
         Tick(stage.sim, tmrES2);
-        EXPECT_EQ(MarkersRoundTheDisc(stage.picSelvane), order) << view << ", Earth-Sun";
+        EXPECT_EQ(MarkersRoundTheDisc(stage.sim.picSelvane.drawing), order) << view << ", Earth-Sun";
     }
 }
 
@@ -238,7 +238,7 @@ TEST(MainPicture, TheDayHalfThroughTheYear)
         SCOPED_TRACE(helio);
         stage.sim.state.HelioDeg = helio - 0.5;
         Tick(stage.sim, tmrES2);
-        const std::vector<Stroke> drawn = stage.picSelvane.Of(StrokeKind::sector);
+        const std::vector<Stroke> drawn = Of(stage.sim.picSelvane.drawing, StrokeKind::Sector);
         ASSERT_EQ(drawn.size(), sectors.size());
         for (std::size_t at = 0; at < drawn.size(); ++at) {
             EXPECT_EQ(drawn[at].fill, stage.sim.state.PlanetLight);
@@ -247,7 +247,7 @@ TEST(MainPicture, TheDayHalfThroughTheYear)
             EXPECT_NEAR(drawn[at].start, Radian(sectors[at].first), 1e-9);
             EXPECT_NEAR(drawn[at].end, Radian(sectors[at].second), 1e-9);
         }
-        EXPECT_EQ(stage.picSelvane.Count(StrokeKind::arc), helio == 270 ? 1U : 0U);
+        EXPECT_EQ(replay::Count(stage.sim.picSelvane.drawing, StrokeKind::Arc), helio == 270 ? 1U : 0U);
     }
 }
 

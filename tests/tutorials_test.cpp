@@ -10,7 +10,7 @@
 #include <random>
 
 using namespace selvane;
-using replay::Stage, replay::Stroke, replay::StrokeKind;
+using raster::Stroke, raster::StrokeKind, replay::Stage;
 
 namespace {
 
@@ -32,7 +32,7 @@ TEST(SolarDays, LitHalfIsHalfADiscTurnedToTheSunEveryDay)
     Choose(stage.sim, mnTimeStandards);
     for (int days = 1; days <= 365; ++days) {
         Scroll(stage.sim, sclRange, days);
-        const auto sectors = stage.picDemo.Of(StrokeKind::sector);
+        const auto sectors = replay::Of(stage.sim.picDemo.drawing, StrokeKind::Sector);
         const double sun = 2 * kPi * days / 365.25 + kPi;
         double width = 0, towardsSun = 0;
         for (std::size_t at = 1; at < sectors.size(); ++at) {
@@ -98,7 +98,7 @@ TEST(Navigator, NoTypedViewLeavesThePicturesNeighbourhood)
     for (const char* text : {"1e308", "-1e308", "1.7976931348623157e308", "-450"}) {
         Type(stage.sim, txtViewD, text);
         Click(stage.sim, btnBack2);
-        for (const Stroke& stroke : stage.picDemo.Strokes())
+        for (const Stroke& stroke : stage.sim.picDemo.drawing.Strokes())
             ASSERT_LT(std::hypot(stroke.at[0], stroke.at[1]), 190) << text;
     }
 }
@@ -157,7 +157,7 @@ TEST(Tutorials, NeverDisturbTheFlight)
         }
         // The polar axes leave their radius behind for the first disc after them, no further.
         for (Stage* stage : {&alone, &taught}) Tick(stage->sim, timer);
-        EXPECT_EQ(alone.picSelvane.Digest(), taught.picSelvane.Digest());
+        EXPECT_EQ(replay::Digest(alone.sim.picSelvane.drawing), replay::Digest(taught.sim.picSelvane.drawing));
     }
 }
 

@@ -3,6 +3,7 @@
 #include "program/program.h"
 #include "qt/appearance.h"
 #include "qt/control_widgets.h"
+#include "qt/picture_widget.h"
 #include "qt/shell.h"
 #include "replay/scripted_platform.h"
 
@@ -86,29 +87,6 @@ QAccessibleInterface& Spoken(QWidget& widget)
 
 } // namespace
 
-// The rest comes without moving what is there already.
-TEST_F(WindowTest, OpensWithTheOrbitAndCompletesItself)
-{
-    const std::vector<std::string> usual = VisibleNames(shell->Window());
-    shell = std::make_unique<Shell>(std::make_unique<PaintedSimulation>(platform),
-                                    Shell::Opens::PictureFirst);
-    shell->Clockwork().StandStill();
-    shell->Show();
-    QWidget& picture = Find("picSelvane");
-    const QPoint place = picture.mapTo(&shell->Window(), QPoint());
-    const QRect planet(330, 230, 60, 60), north(435, 195, 25, 20);
-    const QImage dayside = picture.grab(planet).toImage(), pole = picture.grab(north).toImage();
-    ASSERT_EQ(shell->Window().findChild<QWidget*>("txtView"), nullptr);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return shell->Window().IsFurnished(); }));
-    EXPECT_EQ(VisibleNames(shell->Window()), usual);
-    EXPECT_EQ(picture.mapTo(&shell->Window(), QPoint()), place);
-    EXPECT_EQ(picture.grab(planet).toImage(), dayside);
-    EXPECT_NE(picture.grab(north).toImage(), pole) << "words come with the fonts";
-    const QMenuBar& bar = *shell->Window().menuBar();
-    EXPECT_EQ(bar.height(), bar.sizeHint().height());
-    EXPECT_EQ(bar.actions().size(), 6);
-}
-
 // What is on the screen after a flight in small repaints is what a whole repaint shows.
 TEST_F(WindowTest, RepaintsAllThatChanged)
 {
@@ -165,7 +143,7 @@ TEST_F(WindowTest, KeysMoveABarInTheDirectionTheyPoint)
 
     // The pan bars spring back to 0; which way they went the picture shows.
     const auto moved = [&](ScrollBarId bar, Qt::Key key) {
-        const DrawingSurface& picture = Sim().picSelvane;
+        const Picture& picture = Sim().picSelvane;
         const QPointF before(picture.ScaleLeft, picture.ScaleTop);
         QTest::keyClick(&Bar(bar), key);
         return QPointF(picture.ScaleLeft, picture.ScaleTop) - before;
@@ -357,7 +335,7 @@ TEST_F(WindowTest, TheMarkerStaysOnTheOrbitUnderZoomAndPan)
     Ticks(100);
     const auto expectInPlace = [&] {
         const Marker& record = Sim().controls.lblSat;
-        const DrawingSurface& picture = Sim().picSelvane;
+        const Picture& picture = Sim().picSelvane;
         EXPECT_EQ(marker.x(),
                   qRound((*record.left - picture.ScaleLeft) * 800 / picture.ScaleWidth));
         EXPECT_EQ(marker.y(), qRound((*record.top - picture.ScaleTop) * 600 / picture.ScaleHeight));
@@ -390,7 +368,7 @@ TEST_F(WindowTest, TheWindowFitsEveryScreenAndTheFocusScrollsIntoView)
             Find(name).setFocus();
             EXPECT_EQ(Find(name).visibleRegion().boundingRect(), Find(name).rect()) << name;
         }
-        EXPECT_EQ(static_cast<const PictureSurface&>(Sim().picSelvane).DeviceScale(),
+        EXPECT_EQ(Find<PictureWidget>("picSelvane").Image().devicePixelRatio(),
                   window.devicePixelRatioF());
 
         for (const MenuId item : {mnUserGuide, mnAbout}) {

@@ -13,6 +13,7 @@
 namespace {
 
 using namespace selvane;
+using namespace selvane::rich_text;
 
 // A mark's line holds all of its text, so a line break inside is written as U+2028.
 void PrintMark(const std::string& kind, const std::string& text)

@@ -54,28 +54,28 @@ void EnterNext(Stage& stage, long turn)
 
 void TickAll(Stage& stage, long tick)
 {
-    if (tick % 250 == 0) stage.platform.now = kMoments[tick / 250 % std::ssize(kMoments)];
+    if (tick % 250 == 0) stage.sim.now = kMoments[tick / 250 % std::ssize(kMoments)];
     for (const TimerId timer : {tmrSat, tmrES2, tmrSunSynch})
         if (stage.sim.controls.timers[Index(timer)].enabled) Tick(stage.sim, timer);
     if (tick % 4 == 0) Tick(stage.sim, tmrTime);
+    CarryOut(stage.sim, stage.platform);
 }
 
 std::uint32_t FrameOf(Stage& stage)
 {
     RedrawScene(stage.sim);
-    return stage.picSelvane.Digest();
+    return replay::Digest(stage.sim.picSelvane.drawing);
 }
 
+// Only what the frame is drawn from comes over.
 bool LastFrameIsThatOfAFreshStart(Stage& stage)
 {
     Stage fresh;
     fresh.sim.state = stage.sim.state;
-    fresh.sim.state.CurPic = &fresh.picSelvane;
     fresh.sim.controls = stage.sim.controls;
-    fresh.picSelvane.ScaleLeft = stage.picSelvane.ScaleLeft;
-    fresh.picSelvane.ScaleTop = stage.picSelvane.ScaleTop;
-    fresh.picSelvane.ScaleWidth = stage.picSelvane.ScaleWidth;
-    fresh.picSelvane.ScaleHeight = stage.picSelvane.ScaleHeight;
+    for (double Picture::*const scale : {&Picture::ScaleLeft, &Picture::ScaleTop,
+                                         &Picture::ScaleWidth, &Picture::ScaleHeight})
+        fresh.sim.picSelvane.*scale = stage.sim.picSelvane.*scale;
     return FrameOf(stage) == FrameOf(fresh);
 }
 

@@ -1,5 +1,5 @@
-// The names of the controls. A control's identifier is its name everywhere: in the code, in the
-// control table, in the window and in scripts.
+// The names of the controls, pictures and windows. A control's identifier is its name everywhere: in
+// the code, in the control table, in the window and in scripts.
 #pragma once
 
 #include "app/assertion.h"
@@ -49,7 +49,12 @@ enum class MenuId {
 };
 inline constexpr std::size_t kMenuCount = 22;
 
+enum class WindowId { Main, UserGuide, About };
+inline constexpr std::size_t kWindowCount = 3;
+
 // clang-format on
+
+enum class PictureId { None, picSelvane, picDemo };
 
 // The read-out of that index, 0 to 16.
 constexpr LabelId lblOutput(int index)

@@ -1,6 +1,7 @@
 #include "app/controls.h"
 
 #include "app/assertion.h"
+#include "app/handlers.h"
 #include "app/number_text.h"
 #include "app/simulation.h"
 
@@ -27,7 +28,7 @@ NumberField& Field(Simulation& sim, FieldId field)
 void ReadValue(NumberField& field)
 {
     field.value = PrefixNumber(field.text);
-    field.wholeValue = WholeNumberText(field.text);
+    field.strictValue = StrictNumber(field.text);
 }
 
 } // namespace
@@ -61,7 +62,7 @@ void Assign(Simulation& sim, ScrollBarId bar, int value)
     record.value = value;
     SELVANE_ASSERT(sim.controls.nesting < kDeepestNesting);
     ++sim.controls.nesting;
-    sim.wiring.change[Index(bar)](sim);
+    kHandlers.change[Index(bar)](sim);
     --sim.controls.nesting;
 }
 
@@ -106,9 +107,9 @@ double Number(const Simulation& sim, FieldId field)
     return sim.controls.fields[Index(field)].value;
 }
 
-std::optional<double> WholeNumber(const Simulation& sim, FieldId field)
+std::optional<double> StrictNumber(const Simulation& sim, FieldId field)
 {
-    return sim.controls.fields[Index(field)].wholeValue;
+    return sim.controls.fields[Index(field)].strictValue;
 }
 
 void SetFault(Simulation& sim, FieldId field, std::string_view why)
@@ -119,6 +120,15 @@ void SetFault(Simulation& sim, FieldId field, std::string_view why)
 void SetCaption(Simulation& sim, LabelId label, std::string caption)
 {
     sim.controls.labels[Index(label)].caption = std::move(caption);
+}
+
+void SetRow(Simulation& sim, int row, std::string_view name, std::string_view number,
+            std::string_view unit)
+{
+    std::string caption(name);
+    caption += number;
+    caption += unit;
+    SetCaption(sim, lblOutput(row), std::move(caption));
 }
 
 void SetToolTip(Simulation& sim, LabelId label, std::string_view toolTip)

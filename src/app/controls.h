@@ -13,7 +13,9 @@
 
 namespace selvane {
 
+namespace rich_text {
 struct RichText;
+}
 struct Simulation;
 
 struct ScrollBar
@@ -25,8 +27,8 @@ struct ScrollBar
 struct NumberField
 {
     std::string text;
-    double value = 0;                 // the leading numeric prefix of the text, 0 without one
-    std::optional<double> wholeValue; // the text as a number, where all of it is one
+    double value = 0;                  // the leading numeric prefix of the text, 0 without one
+    std::optional<double> strictValue; // the text as a number, where all of it is one
     bool visible = true;
     std::string fault; // why the field's pair describes no orbit; empty while it does
 };
@@ -64,9 +66,9 @@ struct Marker
 // A rich-text pane.
 struct HelpPane
 {
-    std::string document;                 // name last loaded, empty when emptied
-    std::shared_ptr<const RichText> text; // null when emptied
-    unsigned loads = 0;                   // counts loads and emptyings: a new one starts at the top
+    std::string document;                            // name last loaded, empty when emptied
+    std::shared_ptr<const rich_text::RichText> text; // null when emptied
+    unsigned loads = 0; // counts loads and emptyings: a new one starts at the top
 };
 
 struct Controls
@@ -99,11 +101,15 @@ int Value(const Simulation& sim, ScrollBarId bar);
 void SetText(Simulation& sim, FieldId field, std::string text);
 const std::string& Text(const Simulation& sim, FieldId field);
 double Number(const Simulation& sim, FieldId field);
-std::optional<double> WholeNumber(const Simulation& sim, FieldId field);
+std::optional<double> StrictNumber(const Simulation& sim, FieldId field);
 void SetFault(Simulation& sim, FieldId field, std::string_view why);
 
 void SetCaption(Simulation& sim, LabelId label, std::string caption);
 void SetToolTip(Simulation& sim, LabelId label, std::string_view toolTip);
+
+// The caption of a row of the read-outs: its name, the number, the unit.
+void SetRow(Simulation& sim, int row, std::string_view name, std::string_view number,
+            std::string_view unit);
 
 void Show(Simulation& sim, ScrollBarId bar, bool visible);
 void Show(Simulation& sim, FieldId field, bool visible);

@@ -162,7 +162,7 @@ double PrefixNumber(std::string_view text)
     return prefix.overflows ? 0 : prefix.value;
 }
 
-std::optional<double> WholeNumberText(std::string_view text)
+std::optional<double> StrictNumber(std::string_view text)
 {
     const NumericPrefix prefix = ReadPrefix(text);
     if (prefix.length == 0 || prefix.overflows) return std::nullopt;

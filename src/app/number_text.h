@@ -14,7 +14,7 @@ double PrefixNumber(std::string_view text);
 
 // The whole text as a number in the grammar of the prefix, blanks round it allowed. Nothing when
 // anything else stands in it, or where the number overflows.
-std::optional<double> WholeNumberText(std::string_view text);
+std::optional<double> StrictNumber(std::string_view text);
 
 // Plain decimal text, rounded to 15 significant digits, no trailing zeros, no exponent.
 // Expects a finite number.

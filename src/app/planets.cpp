@@ -2,7 +2,6 @@
 
 #include "app/number_text.h"
 #include "app/simulation.h"
-#include "app/start_up.h"
 
 namespace selvane {
 
@@ -33,18 +32,6 @@ std::string PlanetCaption(const PlanetRow& row)
            " hours";
 }
 
-void ClickPlanet(Simulation& sim, MenuId item)
-{
-    if (IsChecked(sim, item)) {
-        Check(sim, item, false);
-        return;
-    }
-    for (const PlanetRow& row : kPlanets) Check(sim, row.item, row.item == item);
-    SelectPlanet(sim, item);
-    ResetOrbit(sim);
-    sim.state.PlanetRotDeg = 0; // after the reset: its picture still shows the old angle
-}
-
 } // namespace
 
 std::span<const PlanetRow> PlanetTable()
@@ -64,27 +51,6 @@ void SelectPlanet(Simulation& sim, MenuId item)
     state.PlanetLight = row.light;
     state.PlanetDark = row.dark;
     SetCaption(sim, lblPlanet, PlanetCaption(row));
-}
-
-void mnMercury_Click(Simulation& sim)
-{
-    ClickPlanet(sim, mnMercury);
-}
-void mnVenus_Click(Simulation& sim)
-{
-    ClickPlanet(sim, mnVenus);
-}
-void mnEarth_Click(Simulation& sim)
-{
-    ClickPlanet(sim, mnEarth);
-}
-void mnMars_Click(Simulation& sim)
-{
-    ClickPlanet(sim, mnMars);
-}
-void mnJupiter_Click(Simulation& sim)
-{
-    ClickPlanet(sim, mnJupiter);
 }
 
 } // namespace selvane

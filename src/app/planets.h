@@ -27,12 +27,4 @@ std::span<const PlanetRow> PlanetTable();
 // Writes the row of that item into the planet fields and into the caption of lblPlanet; no more.
 void SelectPlanet(Simulation& sim, MenuId item);
 
-// A click on the checked planet only clears the check mark; on another one it selects the planet
-// and resets the orbit.
-void mnMercury_Click(Simulation& sim);
-void mnVenus_Click(Simulation& sim);
-void mnEarth_Click(Simulation& sim);
-void mnMars_Click(Simulation& sim);
-void mnJupiter_Click(Simulation& sim);
-
 } // namespace selvane

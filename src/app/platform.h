@@ -1,6 +1,9 @@
-// What the program asks of the machine it runs on, apart from the screen. Each call returns at
-// once: what could block or open a window is carried out after the handler has returned.
+// What the program has to do with the machine it runs on, apart from the screen. A handler asks for
+// things by appending requests to its simulation; once it has returned, CarryOut of program.h
+// carries them out on the platform.
 #pragma once
+
+#include "app/control_ids.h"
 
 #include <cstdint>
 #include <optional>
@@ -16,6 +19,20 @@ struct LocalTime
     int hour = 0, minute = 0, second = 0; // 24-hour clock
 };
 
+// What a handler asks of the machine.
+struct Request
+{
+    enum class Kind {
+        LoadDocument,          // into the pane of that window
+        OpenLink,              // a web or mail link, with the user's own program
+        StartSystemInformation // the machine's own tool; a message where there is none
+    };
+
+    Kind kind;
+    std::string target{};              // the document's name, or the link
+    WindowId window = WindowId::Main;
+};
+
 // One value read from the registry: its type and the bytes written into the caller's buffer.
 struct RegistryValue
 {
@@ -25,18 +42,16 @@ struct RegistryValue
 
 enum class RegistryKey : std::uint64_t {}; // an open key
 
+// Each call returns at once: what could block or open a window is left to the shell's event loop.
 class Platform
 {
 public:
-    Platform() = default;
     virtual ~Platform() = default;
-    Platform(const Platform&) = delete;
-    Platform& operator=(const Platform&) = delete;
 
     virtual LocalTime Now() const = 0;
 
-    // The bytes of the document of that name in the working folder; nothing when it is missing,
-    // no plain file or cannot be read.
+    // The bytes of the document of that name in the working folder, upper and lower case being the
+    // same; nothing when it is missing, no plain file or cannot be read.
     virtual std::optional<std::string> ReadDocument(std::string_view name) const = 0;
 
     // Opens a web or mail link with the user's own program; a failure is not reported.
@@ -63,6 +78,11 @@ public:
         return std::nullopt;
     }
     virtual void CloseKey(RegistryKey /*key*/) {}
+
+protected:
+    Platform() = default;
+    Platform(const Platform&) = default; // where there is no more to it than values
+    Platform& operator=(const Platform&) = default;
 };
 
 } // namespace selvane

@@ -6,14 +6,13 @@
 #pragma once
 
 #include "app/colour.h"
+#include "app/control_ids.h"
 
 #include <cstdint>
 #include <string>
 #include <string_view>
 
 namespace selvane {
-
-class DrawingSurface;
 
 // The active scenario: the program's state.
 enum class Scenario { None, ES1, Geo, Moly, ES2, SunSynch, Tutorial };
@@ -55,7 +54,7 @@ struct SimState
     double ViewDeg = 0;  // tilt of the view; which sign it has depends on who wrote it last
     double ViewRad = 0;
     double GlobeViewDeg = 0;          // minus the value of txtView, as the view bar left it
-    DrawingSurface* CurPic = nullptr; // the picture in use
+    PictureId CurPic = PictureId::None; // the picture in use
 
     // The orbit's elements, derived by DrawOrbit.
     double SMajAxis = 0; // km, semi-major axis
@@ -75,6 +74,8 @@ struct SimState
     double RAAN = 0;    // degrees, right ascension of the ascending node
     double ArgpDeg = 0; // degrees, value of txtARGP
     double ARGP = 0;    // degrees, value of txtARGP + 90: where the radius is largest
+    double PosLon = 0;  // radians, Incl as the next projection of the orbit takes it
+    double PosRoll = 0; // radians, RAAN likewise; a tick of the satellite reads both
 
     // The satellite.
     double SatDeg = 0;          // degrees along the orbit; also the counter of the drawing loops
@@ -114,7 +115,7 @@ struct SimState
 
     // Scratch: inputs and outputs of the projections and of the scenes, worth nothing outside
     // the procedure that has just written them.
-    double PosRadius = 0, PosLat = 0, PosLon = 0, PosRoll = 0;
+    double PosRadius = 0, PosLat = 0;
     double GlobeInclDeg = 0, GlobePosLat = 0, GlobePosLon = 0, GlobePosRoll = 0, GlobeViewRad = 0;
     double DemoLatDeg = 0, DemoLonDeg = 0, DemoRollDeg = 0, DemoViewDeg = 0;
     double DemoPosLat = 0, DemoPosLon = 0, DemoPosRoll = 0, DemoViewRad = 0;

@@ -1,69 +1,33 @@
-// Simulation: everything that the program is while it runs, without a screen. Handlers and
-// scenarios work on the whole of it; what a procedure computes from values alone stands in a
-// kernel beside it. One thread at a time works on simulations, as scenes remember their last ones.
+// Simulation: everything that the program is while it runs, as one value. A copy of it is a second,
+// independent program; two may run on two threads. Handlers and scenarios work on the whole of it;
+// what a procedure computes from values alone stands in a kernel beside it.
 #pragma once
 
-#include "app/control_table.h"
 #include "app/controls.h"
-#include "app/drawing_surface.h"
+#include "app/picture.h"
 #include "app/platform.h"
 #include "app/sim_state.h"
 #include "app/windows.h"
 
+#include <vector>
+
 namespace selvane {
 
-using Procedure = void (*)(Simulation&);
-
-// What runs when: the handlers of the controls, and the procedures of higher rooms that a lower
-// one starts. Null where a control has no handler.
-struct Wiring
-{
-    std::array<Procedure, kScrollBarCount> change{};
-    std::array<Procedure, kButtonCount> click{};
-    std::array<Procedure, kMenuCount> menu{};
-    std::array<Procedure, kTimerCount> tick{};
-    std::array<Procedure, kLabelCount> label{};
-
-    // The moments of the windows' lives.
-    std::array<Procedure, kWindowCount> load{};
-    std::array<Procedure, kWindowCount> activate{};
-    Procedure unload = nullptr; // of the main window
-
-    Procedure RotatingPlanet = nullptr;
-    Procedure DrawOrbit = nullptr;
-    Procedure PrintValues = nullptr;
-    Procedure btnPlay_Click = nullptr;
-    Procedure PlanetPosition = nullptr;
-    Procedure mnSatelliteTracking_Click = nullptr;
-
-    // The rich text in a document's bytes; null where they hold none.
-    std::shared_ptr<const RichText> (*readRichText)(const std::string& bytes) = nullptr;
-};
-
+// As it stands before the main window is loaded: the records hold what the control table says.
 struct Simulation
 {
-    // The surfaces, the platform and the wiring outlive the simulation.
-    Simulation(DrawingSurface& mainPicture, DrawingSurface& tutorialPicture, Platform& machine,
-               const Wiring& wires)
-        : controls(InitialControls()),
-          picSelvane(mainPicture),
-          picDemo(tutorialPicture),
-          platform(machine),
-          wiring(wires)
-    {
-        picSelvane.ForeColor = kPicSelvane.foreColor;
-        picSelvane.FillColor = kPicSelvane.fillColor;
-        picDemo.ForeColor = kPicDemo.foreColor;
-        picDemo.FillColor = kPicDemo.fillColor;
-    }
-
     SimState state;
-    Controls controls;
+    Controls controls = InitialControls();
     Windows windows;
-    DrawingSurface& picSelvane;
-    DrawingSurface& picDemo;
-    Platform& platform;
-    const Wiring& wiring;
+    Picture picSelvane{kPicSelvane}, picDemo{kPicDemo};
+    std::vector<Request> requests; // what the handlers have asked of the machine, in their order
+    LocalTime now;                 // the machine's time; a shell sets it before each event
 };
+
+// The picture that CurPic names: the main one where it names none.
+inline Picture& CurrentPicture(Simulation& sim)
+{
+    return sim.state.CurPic == PictureId::picDemo ? sim.picDemo : sim.picSelvane;
+}
 
 } // namespace selvane

@@ -1,5 +1,6 @@
 #include "app/windows.h"
 
+#include "app/handlers.h"
 #include "app/simulation.h"
 
 #include <algorithm>
@@ -10,7 +11,7 @@ namespace {
 
 void RunActivation(Simulation& sim)
 {
-    const Procedure activate = sim.wiring.activate[Index(sim.windows.order.back())];
+    const Procedure activate = kHandlers.activate[Index(sim.windows.order.back())];
     if (activate) activate(sim);
 }
 
@@ -40,7 +41,7 @@ void ShowWindow(Simulation& sim, WindowId window)
     if (!IsLoaded(sim, window)) {
         // Loaded beneath the active window; the activation brings it up.
         sim.windows.order.insert(sim.windows.order.begin(), window);
-        const Procedure load = sim.wiring.load[Index(window)];
+        const Procedure load = kHandlers.load[Index(window)];
         if (load) load(sim);
         if (sim.windows.order.size() == 1) {
             RunActivation(sim);
@@ -62,7 +63,7 @@ void CloseWindow(Simulation& sim, WindowId window)
 {
     if (!IsLoaded(sim, window)) return;
     if (window == WindowId::Main) {
-        sim.wiring.unload(sim);
+        kHandlers.unload[Index(WindowId::Main)](sim);
         Drop(sim, WindowId::Main);
         sim.windows.running = false;
         return;

@@ -10,9 +10,6 @@
 
 namespace selvane {
 
-enum class WindowId { Main, UserGuide, About };
-inline constexpr std::size_t kWindowCount = 3;
-
 // frmUserGuide, the reader of the user guide.
 struct UserGuideWindow
 {

@@ -1,6 +1,6 @@
 #include "demos/earth_sun.h"
 
-#include "app/start_up.h"
+#include "demos/default_orbit.h"
 #include "demos/sun_scene.h"
 
 namespace selvane {

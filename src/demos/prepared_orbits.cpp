@@ -1,7 +1,10 @@
 #include "demos/prepared_orbits.h"
 
-#include "app/start_up.h"
-#include "demos/scenario.h"
+#include "app/help_pane.h"
+#include "demos/default_orbit.h"
+#include "demos/demonstration.h"
+#include "model/read_outs.h"
+#include "model/satellite_motion.h"
 #include "scene/globe.h"
 #include "scene/orbit.h"
 
@@ -23,7 +26,7 @@ void Enter(Simulation& sim, Scenario mode, MenuId item, const DemoSettings& sett
     sim.picSelvane.Cls();
     DrawPlanet(sim);
     DrawOrbit(sim);
-    LoadDemoDocument(sim, document);
+    LoadDocument(sim, WindowId::Main, document);
     sim.state.PlanetX = 0;
     sim.state.PlanetY = 0;
 }
@@ -37,9 +40,9 @@ void Leave(Simulation& sim, MenuId item)
 // Both ways of the handlers end alike.
 void SetOff(Simulation& sim)
 {
-    sim.wiring.btnPlay_Click(sim);
+    btnPlay_Click(sim);
     Show(sim, lblReturnToTutorial, true);
-    TellTrueAnomaly(sim);
+    Row10IsTrueAnomaly(sim);
 }
 
 } // namespace

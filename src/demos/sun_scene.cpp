@@ -1,5 +1,6 @@
 #include "demos/sun_scene.h"
 
+#include "app/help_pane.h"
 #include "model/read_outs.h"
 #include "scene/globe.h"
 #include "scene/orbit.h"
@@ -29,10 +30,10 @@ void EnterSunScene(Simulation& sim, const SunScene& scene)
     state.HelioPx = kPathRadius;
     RunOnly(sim, scene.timer);
     ShowMarker(sim, false);
-    LoadDemoDocument(sim, scene.document);
+    LoadDocument(sim, WindowId::Main, scene.document);
     ResetOutputLabels(sim);
     Show(sim, lblReturnToTutorial, true);
-    TellElapsedDays(sim);
+    Row10IsElapsedDays(sim);
 }
 
 void AdvanceHalfADegree(Simulation& sim)

@@ -3,7 +3,7 @@
 // not shown. The clock of the scene is one angle, HelioDeg.
 #pragma once
 
-#include "demos/scenario.h"
+#include "demos/demonstration.h"
 
 namespace selvane {
 

@@ -1,7 +1,8 @@
 #include "demos/sun_synchronous.h"
 
-#include "app/start_up.h"
+#include "demos/default_orbit.h"
 #include "demos/sun_scene.h"
+#include "model/satellite_motion.h"
 
 namespace selvane {
 
@@ -23,7 +24,7 @@ void mnSunSynch_Click(Simulation& sim)
     } else {
         EnterSunScene(sim, kSunSynchronous);
     }
-    sim.wiring.btnPlay_Click(sim);
+    btnPlay_Click(sim);
 }
 
 void tmrSunSynch_Timer(Simulation& sim)

@@ -1,11 +1,9 @@
-// frmAbout: title, version, the maker's links, and the way to the system-information tool.
+// frmAbout: title, version, the maker's links, and a button for the system-information tool.
 #pragma once
 
 #include "app/control_table.h"
 
-#include <cstdint>
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace selvane {
@@ -59,15 +57,5 @@ void cmdSysInfo_Click(Simulation& sim);
 void Label1_Click(Simulation& sim);
 void LblWebsite_Click(Simulation& sim);
 } // namespace frmAbout
-
-// Finds the system-information tool through the registry and starts it, or says that it is not
-// available.
-void StartSysInfo(Simulation& sim);
-
-// Reads the value subKeyRef of the key keyName: a string as it is; a 32-bit number as hexadecimal
-// digits, highest byte first, after what keyVal held and with "&h" before all; any other type
-// leaves keyVal. False, and an empty keyVal, when it cannot be read.
-bool GetKeyValue(Simulation& sim, std::uint32_t keyRoot, const std::string& keyName,
-                 const std::string& subKeyRef, std::string& keyVal);
 
 } // namespace selvane

@@ -55,7 +55,7 @@ void Form_Activate(Simulation& sim)
 
 void Topic_Click(Simulation& sim, Topic topic)
 {
-    Load(sim, sim.windows.frmUserGuide.txtHelp, kTopics[static_cast<std::size_t>(topic)].document);
+    LoadDocument(sim, WindowId::UserGuide, kTopics[Index(topic)].document);
 }
 
 } // namespace frmUserGuide

@@ -89,33 +89,6 @@ void WorkOutPlace(SimState& state)
     state.SatLat = Snapped(latitude, 0, 180);
 }
 
-void StepSatellite(Simulation& sim, int direction)
-{
-    SimState& state = sim.state;
-    state.SatDeg += direction;
-    state.SatDir = direction;
-    // To 0, not to the remainder: a redraw leaves 361, and the satellite starts again from there.
-    if (direction > 0 ? state.SatDeg >= 360 : state.SatDeg <= -360) state.SatDeg = 0;
-    SatControl(sim);
-}
-
-void StepPlanet(Simulation& sim, int direction)
-{
-    SimState& state = sim.state;
-    state.HelioDeg += direction;
-    if (state.HelioDeg >= 360) state.HelioDeg = 0;
-    if (state.HelioDeg < 0) state.HelioDeg += 360;
-    ShowDay(sim);
-    sim.wiring.PlanetPosition(sim);
-}
-
-void StepByHand(Simulation& sim, int direction)
-{
-    const Scenario mode = sim.state.OrbitMode;
-    if (SatelliteFlies(mode)) StepSatellite(sim, direction);
-    if (IsSunCentred(mode)) StepPlanet(sim, direction);
-}
-
 } // namespace
 
 void SatControl(Simulation& sim)
@@ -164,16 +137,6 @@ void btnPause_Click(Simulation& sim)
         Show(sim, btnPause, false);
         Show(sim, btnPlay, true);
     }
-}
-
-void btnAdvance_Click(Simulation& sim)
-{
-    StepByHand(sim, +1);
-}
-
-void btnReverse_Click(Simulation& sim)
-{
-    StepByHand(sim, -1);
 }
 
 } // namespace selvane

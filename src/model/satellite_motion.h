@@ -15,8 +15,4 @@ void tmrSat_Timer(Simulation& sim);
 void btnPlay_Click(Simulation& sim);
 void btnPause_Click(Simulation& sim);
 
-// Single steps, forward and back; they leave timers and the play button alone.
-void btnAdvance_Click(Simulation& sim);
-void btnReverse_Click(Simulation& sim);
-
 } // namespace selvane

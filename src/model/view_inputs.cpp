@@ -76,7 +76,7 @@ void sclIncl_Change(Simulation& sim)
 void sclZoom_Change(Simulation& sim)
 {
     SimState& state = sim.state;
-    DrawingSurface& picture = sim.picSelvane;
+    Picture& picture = sim.picSelvane;
     state.Zoom = Value(sim, sclZoom) * 0.1;
     SetText(sim, txtZoom, PlainNumber(state.Zoom));
     picture.ScaleHeight = -picture.Height / state.Zoom;

@@ -1,9 +1,10 @@
 #include "program/program.h"
 
+#include "app/handlers.h"
 #include "app/help_pane.h"
+#include "documents/system_information.h"
 
-#include <algorithm>
-#include <string_view>
+#include <utility>
 
 namespace selvane {
 
@@ -59,15 +60,15 @@ Refusal Run(Simulation& sim, Procedure handler)
 
 } // namespace
 
-void Load(Simulation& sim)
+void LoadMainWindow(Simulation& sim)
 {
     sim.windows.order.insert(sim.windows.order.begin(), WindowId::Main);
-    sim.wiring.load[Index(WindowId::Main)](sim);
+    kHandlers.load[Index(WindowId::Main)](sim);
 }
 
-void FirstShowing(Simulation& sim)
+void ShowMainWindow(Simulation& sim)
 {
-    sim.wiring.activate[Index(WindowId::Main)](sim);
+    kHandlers.activate[Index(WindowId::Main)](sim);
 }
 
 Refusal Scroll(Simulation& sim, ScrollBarId bar, int value)
@@ -100,13 +101,13 @@ Refusal Click(Simulation& sim, ButtonId button)
 {
     if (Refusal refusal = NotActive(sim, WindowId::Main)) return refusal;
     if (!IsShown(sim, button)) return Because(ButtonTable()[Index(button)].name, "is hidden");
-    return Run(sim, sim.wiring.click[Index(button)]);
+    return Run(sim, kHandlers.click[Index(button)]);
 }
 
 Refusal Choose(Simulation& sim, MenuId item)
 {
     if (Refusal refusal = NotActive(sim, WindowId::Main)) return refusal;
-    const Procedure handler = sim.wiring.menu[Index(item)];
+    const Procedure handler = kHandlers.menu[Index(item)];
     if (!handler) return Because(MenuTable()[Index(item)].name, "is no item to choose");
     return Run(sim, handler);
 }
@@ -116,7 +117,7 @@ Refusal ClickLabel(Simulation& sim, LabelId label)
     if (Refusal refusal = NotActive(sim, WindowId::Main)) return refusal;
     const std::string_view name = LabelTable()[Index(label)].name;
     if (!sim.controls.labels[Index(label)].visible) return Because(name, "is hidden");
-    const Procedure handler = sim.wiring.label[Index(label)];
+    const Procedure handler = kHandlers.label[Index(label)];
     if (!handler) return Because(name, "is no link");
     return Run(sim, handler);
 }
@@ -126,7 +127,7 @@ Refusal Tick(Simulation& sim, TimerId timer)
     if (!sim.windows.running) return "the program has ended";
     if (!sim.controls.timers[Index(timer)].enabled)
         return Because(TimerTable()[Index(timer)].name, "is off");
-    return Run(sim, sim.wiring.tick[Index(timer)]);
+    return Run(sim, kHandlers.tick[Index(timer)]);
 }
 
 Refusal ActivateByUser(Simulation& sim, WindowId window)
@@ -178,14 +179,38 @@ Refusal ClickAbout(Simulation& sim, AboutControl control)
     return std::nullopt;
 }
 
-void FollowDocumentLink(Simulation& sim, WindowId window, const std::string& name)
+void FollowLink(Simulation& sim, WindowId window, std::string_view link)
 {
-    constexpr std::string_view kEnding = ".rtf";
-    const bool isDocument = name.ends_with(kEnding) && name.find('/') == std::string::npos;
-    if (!isDocument || !IsLoaded(sim, window)) return;
-    HelpPane& pane =
-        window == WindowId::UserGuide ? sim.windows.frmUserGuide.txtHelp : sim.controls.txtHelp;
-    Load(sim, pane, name);
+    if (!IsLoaded(sim, window)) return;
+    LinkTarget target = LinkTargetOf(link);
+    switch (target.kind) {
+    case LinkTarget::Kind::None:
+        break;
+    case LinkTarget::Kind::Document:
+        LoadDocument(sim, window, target.address);
+        break;
+    case LinkTarget::Kind::Web:
+        sim.requests.push_back({Request::Kind::OpenLink, std::move(target.address)});
+        break;
+    }
+}
+
+void CarryOut(Simulation& sim, Platform& platform)
+{
+    for (const auto& [kind, target, window] : std::exchange(sim.requests, {})) {
+        switch (kind) {
+        case Request::Kind::LoadDocument:
+            if (const auto bytes = platform.ReadDocument(target))
+                ShowDocument(sim, window, target, *bytes);
+            break;
+        case Request::Kind::OpenLink:
+            platform.OpenLink(target);
+            break;
+        case Request::Kind::StartSystemInformation:
+            StartSysInfo(platform);
+            break;
+        }
+    }
 }
 
 } // namespace selvane

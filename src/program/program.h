@@ -1,5 +1,6 @@
-// The one door for events. The shell, the scripts and the tests put every action of the user and
-// every tick through here; a handler runs to its end before the next event comes in.
+// The entry points for events. The shells, the scripts and the tests put every action of the user
+// and every tick through here; a handler runs to its end before the next event comes in. A shell
+// sets the time in the simulation before an event, and calls CarryOut after it.
 //
 // An action that a user could not take (a hidden control, a timer that is off, a window that is
 // not the active one) changes nothing, and the reason comes back.
@@ -11,19 +12,17 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace selvane {
-
-// Which handler belongs to which control. Every simulation is made with it.
-const Wiring& TheWiring();
 
 using Refusal = std::optional<std::string>;
 
 // Loads the main window; nothing is drawn yet.
-void Load(Simulation& sim);
+void LoadMainWindow(Simulation& sim);
 
-// The first showing of the main window: it becomes the active one and paints its pictures.
-void FirstShowing(Simulation& sim);
+// The first showing of the main window: it becomes the active one and draws its pictures.
+void ShowMainWindow(Simulation& sim);
 
 // Moves of a bar. A thumb released outside the range is clamped.
 Refusal Scroll(Simulation& sim, ScrollBarId bar, int value);
@@ -45,8 +44,11 @@ Refusal CloseByUser(Simulation& sim, WindowId window);
 Refusal ClickTopic(Simulation& sim, Topic topic);
 Refusal ClickAbout(Simulation& sim, AboutControl control);
 
-// A link to another document, clicked in a pane: loads it there. Anything but the bare name of a
-// document does nothing.
-void FollowDocumentLink(Simulation& sim, WindowId window, const std::string& name);
+// A link in the pane of a window, as its document has it. Another document is loaded there, a web
+// address opened; a link that leads nowhere (see LinkTargetOf) does nothing.
+void FollowLink(Simulation& sim, WindowId window, std::string_view link);
+
+// Carries out what the handlers have asked for, in that order, and empties the list.
+void CarryOut(Simulation& sim, Platform& platform);
 
 } // namespace selvane

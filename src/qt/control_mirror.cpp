@@ -61,8 +61,8 @@ void ControlMirror::Pass(const Simulation& sim)
     MatchMenu(controls);
     MatchMarker(sim);
     widgets_.txtHelp->ShowPane(controls.txtHelp);
-    widgets_.picSelvane->ShowFrame();
-    widgets_.picDemo->ShowFrame();
+    widgets_.picSelvane->Show(sim.picSelvane.drawing);
+    widgets_.picDemo->Show(sim.picDemo.drawing);
 }
 
 void ControlMirror::MatchBars(const Controls& controls)
@@ -148,7 +148,7 @@ void ControlMirror::MatchMarker(const Simulation& sim)
     const Marker& record = sim.controls.lblSat;
     QWidget& marker = *widgets_.lblSat;
     if (record.left && record.top) {
-        const DrawingSurface& picture = sim.picSelvane;
+        const Picture& picture = sim.picSelvane;
         const QPoint place(
             PixelAt(*record.left, picture.ScaleLeft, picture.ScaleWidth, picture.Width),
             PixelAt(*record.top, picture.ScaleTop, picture.ScaleHeight, picture.Height));

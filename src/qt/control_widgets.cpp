@@ -1,5 +1,6 @@
 #include "qt/control_widgets.h"
 
+#include "app/handlers.h"
 #include "program/program.h"
 #include "qt/appearance.h"
 #include "qt/dispatch.h"
@@ -40,16 +41,12 @@ public:
     {}
 
     // From the bottom of the pile to its top.
-    void BuildMainPicture(PictureSurface& surface)
+    void Build()
     {
         for (const FrameRow& row : FrameTable()) AddFrame(row);
-        widgets_.picSelvane = new PictureWidget(surface, kPicSelvane, &panel_);
-    }
-
-    void BuildControls(PictureSurface& tutorialPicture)
-    {
+        widgets_.picSelvane = new PictureWidget(kPicSelvane, &panel_);
         widgets_.picSelvane->setAccessibleName("Orbit");
-        widgets_.picDemo = new PictureWidget(tutorialPicture, kPicDemo, &panel_);
+        widgets_.picDemo = new PictureWidget(kPicDemo, &panel_);
         widgets_.picDemo->setAccessibleName("Tutorial picture");
         for (const LabelRow& row : LabelTable()) AddLabel(row);
         AddMarker();
@@ -57,7 +54,7 @@ public:
         for (const FieldRow& row : FieldTable()) AddField(row);
         for (const ButtonRow& row : ButtonTable()) AddButton(row);
         AddHelpPane();
-        TellCovered();
+        SetCoveredParts();
         OrderTabs();
     }
 
@@ -83,7 +80,7 @@ private:
     void AddLabel(const LabelRow& row)
     {
         LabelWidget& label = widgets_.labels[Index(row.id)];
-        if (door_.Sim().wiring.label[Index(row.id)]) {
+        if (kHandlers.label[Index(row.id)]) {
             label.link = new LinkLabel(TextOf(row.caption), row.place, &panel_);
             QObject::connect(
                 label.link, &QAbstractButton::clicked, &door_, [door = &door_, id = row.id] {
@@ -171,21 +168,15 @@ private:
         pane->setGeometry(RectOf(kHelpPane));
         pane->setAccessibleName("Explanation");
         pane->setAccessibleDescription("Explains what the pictures show.");
-        QObject::connect(pane, &HelpPaneWidget::documentLinkClicked, &door_,
-                         [door = &door_](const QString& name) {
-                             door->Act(WindowId::Main, [to = name.toStdString()](Simulation& sim) {
-                                 FollowDocumentLink(sim, WindowId::Main, to);
-                             });
-                         });
-        QObject::connect(pane, &HelpPaneWidget::webLinkClicked, &door_,
+        QObject::connect(pane, &HelpPaneWidget::linkClicked, &door_,
                          [door = &door_](const QString& link) {
                              door->Act(WindowId::Main, [to = link.toStdString()](Simulation& sim) {
-                                 sim.platform.OpenLink(to);
+                                 FollowLink(sim, WindowId::Main, to);
                              });
                          });
     }
 
-    void TellCovered()
+    void SetCoveredParts()
     {
         const QRect picture = widgets_.picSelvane->geometry();
         QRegion covered;
@@ -218,18 +209,13 @@ QWidget* LabelWidget::Widget() const
     return link ? static_cast<QWidget*>(link) : static_cast<QWidget*>(caption);
 }
 
-ControlWidgets BuildMainPicture(QWidget& panel, PictureSurface& surface, Dispatch& door)
+ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door)
 {
     TeachSpokenRoles(); // a control that has been spoken of keeps the role it had then
     ControlWidgets widgets;
-    ControlBuilder(widgets, panel, door).BuildMainPicture(surface);
+    ControlBuilder(widgets, panel, door).Build();
+    widgets.menu = BuildMenus(menuBar, door);
     return widgets;
-}
-
-void BuildControls(ControlWidgets& widgets, const WindowParts& window, Dispatch& door)
-{
-    ControlBuilder(widgets, window.panel, door).BuildControls(window.tutorialPicture);
-    widgets.menu = BuildMenus(window.menuBar, door);
 }
 
 std::span<const std::string_view> ReadingOrder()

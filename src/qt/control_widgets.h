@@ -23,7 +23,6 @@ class FaceButton;
 class HelpPaneWidget;
 class LinkLabel;
 class NumberLine;
-class PictureSurface;
 class PictureWidget;
 class ValueBar;
 
@@ -49,18 +48,9 @@ struct ControlWidgets
     HelpPaneWidget* txtHelp = nullptr;
 };
 
-// Puts on the panel what lies lowest, its frames and the main picture. None of it has text.
-ControlWidgets BuildMainPicture(QWidget& panel, PictureSurface& surface, Dispatch& door);
-
-struct WindowParts
-{
-    QWidget& panel;
-    QMenuBar& menuBar;
-    PictureSurface& tutorialPicture;
-};
-
-// Adds all others, and fills the menu bar. What the user does to a widget goes through the door.
-void BuildControls(ControlWidgets& widgets, const WindowParts& window, Dispatch& door);
+// Puts the controls on the panel, and fills the menu bar. What the user does to a widget goes to the
+// dispatcher.
+ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door);
 
 // The names of all controls that take the focus, in reading order: the main picture and the row
 // below it, the two panels, then the tutorials' column.

@@ -41,7 +41,9 @@ void Dispatch::RunWaiting()
     while (!waiting_.empty()) {
         const Event event = std::move(waiting_.front());
         waiting_.pop_front();
+        sim_.now = platform_.Now();
         event(sim_);
+        CarryOut(sim_, platform_);
     }
     emit settled(std::exchange(after_, After::TicksOnly));
 }

@@ -1,9 +1,10 @@
-// Dispatch: the window's one door to the program. An event runs to its end before the next one
-// comes in; one that arrives meanwhile waits. When all are done the screen is made to match the
-// records, once.
+// Dispatch: brings the events of the window to the program. An event runs to its end, with what it
+// asks of the machine, before the next one comes in; one that arrives meanwhile waits. When all are
+// done the screen is made to match the records, once.
 #pragma once
 
 #include "app/control_ids.h"
+#include "app/platform.h"
 #include "app/windows.h"
 
 #include <QObject>
@@ -19,8 +20,8 @@ class Dispatch : public QObject
 public:
     using Event = std::function<void(Simulation&)>;
 
-    // The simulation outlives it.
-    explicit Dispatch(Simulation& sim) : sim_(sim) {}
+    // Both outlive it.
+    Dispatch(Simulation& sim, Platform& platform) : sim_(sim), platform_(platform) {}
 
     // An action of the user in one of the windows. The window becomes the active one first, also
     // where the desktop has not said so.
@@ -43,6 +44,7 @@ private:
     void RunWaiting();
 
     Simulation& sim_;
+    Platform& platform_;
     std::deque<Event> waiting_;
     After after_ = After::TicksOnly;
     bool busy_ = false;

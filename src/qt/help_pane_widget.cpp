@@ -49,7 +49,7 @@ void HelpPaneWidget::ShowPane(const HelpPane& pane)
 
 void HelpPaneWidget::MakeDocument()
 {
-    const RichText empty;
+    const rich_text::RichText empty;
     std::unique_ptr<QTextDocument> made =
         MakeTextDocument(text_ ? *text_ : empty, font(), zoomPercent_ / 100.0, kPictureWidth);
     made->setParent(this); // the pane deletes it when the next one comes
@@ -163,9 +163,7 @@ void HelpPaneWidget::wheelEvent(QWheelEvent* event)
 
 void HelpPaneWidget::Follow(const QUrl& link)
 {
-    const LinkTarget target = LinkTargetOf(link.toString(QUrl::FullyEncoded));
-    if (target.kind == LinkTarget::Kind::Document) emit documentLinkClicked(target.address);
-    if (target.kind == LinkTarget::Kind::Web) emit webLinkClicked(target.address);
+    emit linkClicked(link.toString(QUrl::FullyEncoded));
 }
 
 QVariant HelpPaneWidget::loadResource(int, const QUrl&)

@@ -8,7 +8,9 @@
 namespace selvane {
 
 struct HelpPane;
+namespace rich_text {
 struct RichText;
+}
 
 class HelpPaneWidget : public QTextBrowser
 {
@@ -24,8 +26,7 @@ public:
     int ZoomPercent() const { return zoomPercent_; } // 50 to 300
 
 signals:
-    void documentLinkClicked(const QString& name); // bare name of a document of the folder
-    void webLinkClicked(const QString& address);   // http or https
+    void linkClicked(const QString& link); // as the document has it, fully encoded
 
 public slots:
     // Nothing outside the document is ever fetched.
@@ -45,7 +46,7 @@ private:
     void Follow(const QUrl& link);
     void PaintOutline();
 
-    std::shared_ptr<const RichText> text_;
+    std::shared_ptr<const rich_text::RichText> text_;
     unsigned loads_ = 0;
     int zoomPercent_ = 100;
     int wheel_ = 0; // eighths of a degree not yet acted on

@@ -40,25 +40,26 @@ void SetDescription(QWidget& widget, const std::string& words)
 
 } // namespace
 
-MainWindow::MainWindow(Dispatch& door, PictureSurface& mainPicture) : area_(new PanelArea(this))
+MainWindow::MainWindow(Dispatch& door) : area_(new PanelArea(this))
 {
     setObjectName(TextOf(kApplicationTitle));
     setWindowTitle(TextOf(kApplicationTitle));
-    auto* const menuBarsPlace = new QWidget;
-    menuBarsPlace->setFixedHeight(kMenuBarHeight);
-    setMenuWidget(menuBarsPlace);
     setContextMenuPolicy(Qt::NoContextMenu);
-    BuildPanel(door, mainPicture);
+    BuildPanel(door);
     AddShortcuts(door);
     FitToScreen();
 }
 
-void MainWindow::BuildPanel(Dispatch& door, PictureSurface& mainPicture)
+void MainWindow::BuildPanel(Dispatch& door)
 {
     auto* const panel = new QWidget;
     panel->setObjectName("panel");
     panel->setFixedSize(kClientWidth, kClientHeight);
-    widgets_ = BuildMainPicture(*panel, mainPicture, door);
+    auto* const bar = new MenuBar;
+    bar->setFixedHeight(kMenuBarHeight);
+    widgets_ = BuildControls(*panel, *bar, door);
+    setMenuBar(bar);
+    mirror_ = std::make_unique<ControlMirror>(widgets_);
 
     area_->setObjectName("area");
     area_->setWidget(panel);
@@ -70,21 +71,9 @@ void MainWindow::BuildPanel(Dispatch& door, PictureSurface& mainPicture)
     });
 }
 
-void MainWindow::Furnish(Dispatch& door, PictureSurface& tutorialPicture)
-{
-    QWidget& panel = *area_->widget();
-    panel.hide(); // what is added to a panel that nobody sees comes up with it
-    auto* const bar = new MenuBar;
-    bar->setFixedHeight(kMenuBarHeight);
-    BuildControls(widgets_, {panel, *bar, tutorialPicture}, door);
-    setMenuBar(bar);
-    mirror_ = std::make_unique<ControlMirror>(widgets_);
-    panel.show();
-}
-
 void MainWindow::Match(const Simulation& sim)
 {
-    if (mirror_) mirror_->Pass(sim);
+    mirror_->Pass(sim);
 }
 
 // All of the control, not only its caret.
@@ -118,7 +107,6 @@ void MainWindow::ActivateMenuBar()
 
 void MainWindow::Describe(const Simulation& sim)
 {
-    if (!mirror_) return;
     SetDescription(*widgets_.picSelvane, DescribeMainPicture(sim));
     SetDescription(*widgets_.picDemo, DescribeTutorialPicture(sim));
 }

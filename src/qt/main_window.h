@@ -15,17 +15,12 @@ class MainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    // The door and the surface outlive the window. It has the main picture alone, and no text.
-    MainWindow(Dispatch& door, PictureSurface& mainPicture);
+    // The dispatcher outlives the window.
+    explicit MainWindow(Dispatch& door);
 
-    // Adds the menus and all other controls, once. The surface outlives the window.
-    void Furnish(Dispatch& door, PictureSurface& tutorialPicture);
-    bool IsFurnished() const { return mirror_ != nullptr; }
-
-    // Does nothing before the window is furnished.
     void Match(const Simulation& sim);
 
-    // What the pictures show, in words for a screen reader; likewise.
+    // What the pictures show, in words for a screen reader.
     void Describe(const Simulation& sim);
 
     // The size as laid out, but no larger than the screen has room for.
@@ -35,7 +30,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void BuildPanel(Dispatch& door, PictureSurface& mainPicture);
+    void BuildPanel(Dispatch& door);
     void AddShortcuts(Dispatch& door);
     void ActivateMenuBar();
     void ScrollTo(const QWidget& control);

@@ -9,6 +9,8 @@
 
 namespace selvane {
 
+using namespace rich_text;
+
 namespace {
 
 constexpr int kHighest = 4096, kMostScreenDensity = 3; // pixels; image dots per shown pixel

@@ -7,18 +7,20 @@
 
 namespace selvane {
 
+namespace rich_text {
 struct Picture;
+}
 
 // The size to show a picture in, pixels: as the document tells, at most as wide as the room and
 // 4096 high, its proportions kept.
-QSize ShownSize(const Picture& picture, double zoom, int room);
+QSize ShownSize(const rich_text::Picture& picture, double zoom, int room);
 
 // Decodes pictures within a budget of pixels for a whole document.
 class PictureDecoder
 {
 public:
     // Null where the bytes are no picture of their kind, or the budget is spent.
-    QImage Decode(const Picture& picture, QSize shown);
+    QImage Decode(const rich_text::Picture& picture, QSize shown);
 
 private:
     qint64 pixelsLeft_ = 64'000'000;

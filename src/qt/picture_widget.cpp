@@ -7,29 +7,37 @@
 
 namespace selvane {
 
-PictureWidget::PictureWidget(PictureSurface& surface, const PictureRow& row, QWidget* parent)
-    : QWidget(parent), surface_(surface)
+PictureWidget::PictureWidget(const PictureRow& row, QWidget* parent)
+    : QWidget(parent), painter_(row.place.width, row.place.height, row.background)
 {
     setObjectName(TextOf(row.name));
     setGeometry(RectOf(row.place));
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void PictureWidget::ShowFrame()
+void PictureWidget::Show(const raster::Drawing& drawing)
 {
-    const QRect changed = surface_.TakeChanged();
-    if (!changed.isEmpty()) update(QRegion(changed) - covered_);
+    const auto [across, down] = painter_.Paint(drawing, texts_);
+    if (across.IsEmpty() || down.IsEmpty()) return;
+    const double scale = painter_.Scale();
+    const QRectF changed(QPointF(across.first, down.first) / scale,
+                         QPointF(across.end, down.end) / scale);
+    update(QRegion(changed.toAlignedRect()) - covered_);
 }
 
-void PictureWidget::MatchScreen()
+QImage PictureWidget::Image() const
 {
-    surface_.SetDeviceScale(devicePixelRatioF());
+    QImage image(reinterpret_cast<const uchar*>(painter_.Pixels()), painter_.Width(),
+                 painter_.Height(), painter_.Width() * static_cast<int>(sizeof(raster::Pixel)),
+                 QImage::Format_RGB32);
+    image.setDevicePixelRatio(painter_.Scale());
+    return image;
 }
 
 void PictureWidget::paintEvent(QPaintEvent* event)
 {
-    MatchScreen();
-    const QImage picture = surface_.Image();
+    painter_.SetScale(devicePixelRatioF(), texts_);
+    const QImage picture = Image();
     QPainter painter(this);
     // Within a rectangle the toolkit copies; any other shape is filled by several threads.
     for (const QRect& part : event->region()) {

@@ -1,8 +1,11 @@
-// PictureWidget: shows what is drawn on a surface.
+// PictureWidget: a picture of the program on the screen, painted at the screen's own resolution.
 #pragma once
 
-#include "qt/picture_surface.h"
+#include "app/control_table.h"
+#include "qt/text_masks.h"
+#include "raster/painter.h"
 
+#include <QImage>
 #include <QRegion>
 #include <QWidget>
 
@@ -13,23 +16,23 @@ class PictureWidget : public QWidget
     Q_OBJECT
 
 public:
-    // The surface outlives it.
-    PictureWidget(PictureSurface& surface, const PictureRow& row, QWidget* parent);
+    PictureWidget(const PictureRow& row, QWidget* parent);
 
     // Opaque controls that lie over the picture: a new frame leaves them alone.
     void SetCovered(const QRegion& covered) { covered_ = covered; }
 
-    // Shows a new frame, once, if there is one.
-    void ShowFrame();
+    // Paints the drawing, and shows again what has changed.
+    void Show(const raster::Drawing& drawing);
 
-    // Draws at the resolution of the screen that the widget is on.
-    void MatchScreen();
+    // What it shows, in device pixels; valid until it changes.
+    QImage Image() const;
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    PictureSurface& surface_;
+    QtTextMasks texts_;
+    raster::Painter painter_;
     QRegion covered_;
 };
 

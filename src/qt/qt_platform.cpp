@@ -46,6 +46,15 @@ QStringList DocumentFolders(const std::filesystem::path& programFolder)
     return folders;
 }
 
+// The name of that file in the working folder, however its letters are written there.
+QString NameOnDisk(const QString& name)
+{
+    if (QFileInfo::exists(name)) return name;
+    for (const QString& file : QDir().entryList(QDir::Files))
+        if (file.compare(name, Qt::CaseInsensitive) == 0) return file;
+    return name;
+}
+
 QString SystemInformationTool()
 {
     for (const char* const name : {"hardinfo2", "hardinfo", "kinfocenter", "mate-system-monitor",
@@ -82,9 +91,9 @@ std::optional<std::string> QtPlatform::ReadDocument(std::string_view name) const
     const QString bare = TextOf(name);
     if (bare.isEmpty() || bare.contains('/')) return std::nullopt;
     // A pipe or a device of that name is not even opened.
-    const QFileInfo info(bare);
+    const QFileInfo info(NameOnDisk(bare));
     if (!info.isFile() || info.size() > kLargest) return std::nullopt;
-    QFile file(bare);
+    QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
     const QByteArray bytes = file.read(kLargest + 1);
     if (bytes.size() > kLargest || file.error() != QFileDevice::NoError) return std::nullopt;

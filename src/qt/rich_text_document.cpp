@@ -1,5 +1,7 @@
 #include "qt/rich_text_document.h"
 
+#include "app/help_pane.h"
+
 #include "qt/appearance.h"
 #include "qt/picture_decoder.h"
 #include "qt/table_grid.h"
@@ -14,6 +16,8 @@
 #include <cmath>
 
 namespace selvane {
+
+using namespace rich_text;
 
 namespace {
 
@@ -189,10 +193,10 @@ private:
     void SetLink(QTextCharFormat& to, int link) const
     {
         if (link < 0 || static_cast<std::size_t>(link) >= text_.links.size()) return;
-        const QString address = ToText(text_.links[static_cast<std::size_t>(link)]);
+        const std::string& address = text_.links[static_cast<std::size_t>(link)];
         if (LinkTargetOf(address).kind == LinkTarget::Kind::None) return;
         to.setAnchor(true);
-        to.setAnchorHref(address);
+        to.setAnchorHref(ToText(address));
         to.setFontUnderline(true);
         to.setForeground(kLinkColour);
     }
@@ -312,22 +316,6 @@ private:
 };
 
 } // namespace
-
-LinkTarget LinkTargetOf(const QString& link)
-{
-    using enum LinkTarget::Kind;
-    const QUrl url(link, QUrl::StrictMode);
-    const QString scheme = url.scheme().toLower();
-    if (scheme == u"http" || scheme == u"https") {
-        if (!url.isValid() || url.host().isEmpty()) return {};
-        return {Web, url.toString(QUrl::FullyEncoded)};
-    }
-    QString name = QUrl::fromPercentEncoding(link.section(u'#', 0, 0).toUtf8());
-    if (name.startsWith(u"./")) name.remove(0, 2);
-    const bool bare = !name.contains(u'/') && !name.contains(u'\\') && !name.contains(u':');
-    if (!bare || !name.endsWith(u".rtf", Qt::CaseInsensitive)) return {};
-    return {Document, name};
-}
 
 std::unique_ptr<QTextDocument> MakeTextDocument(const RichText& text, const QFont& font,
                                                 double zoom, int pictureWidth)

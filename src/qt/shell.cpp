@@ -1,55 +1,50 @@
 #include "qt/shell.h"
 
+#include "program/program.h"
 #include "qt/application_icon.h"
 #include "qt/heap.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QTimer>
 #include <QWindow>
 
 namespace selvane {
 
-Shell::Shell(Platform& platform)
-    : Shell(std::make_unique<PaintedSimulation>(platform), Opens::Whole)
-{}
+namespace {
 
-Shell::Shell(std::unique_ptr<PaintedSimulation> painted, Opens opens)
-    : painted_(std::move(painted)),
-      door_(painted_->sim),
-      window_(door_, painted_->picSelvane),
+Simulation Started(Platform& platform)
+{
+    Simulation sim;
+    sim.now = platform.Now();
+    LoadMainWindow(sim);
+    ShowMainWindow(sim);
+    CarryOut(sim, platform);
+    return sim;
+}
+
+} // namespace
+
+Shell::Shell(Platform& platform)
+    : sim_(Started(platform)),
+      door_(sim_, platform),
+      window_(door_),
       timers_(door_),
       keeper_(door_, window_)
 {
     connect(&door_, &Dispatch::settled, this, &Shell::Match);
     connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
-    connect(&completion_, &QTimer::timeout, this, &Shell::Complete);
-    completion_.setSingleShot(true);
-    if (opens == Opens::Whole) Furnish();
-}
-
-void Shell::Show()
-{
-    door_.Report([](Simulation&) {}); // the window is made to match what has been painted
-    window_.show();
-    window_.centralWidget()->setFocus(); // no control has it before the user's first Tab
-    window_.windowHandle()->installEventFilter(this);
-    window_.activateWindow(); // a desktop without a window manager activates nothing by itself
-    constexpr int kPatienceMs = 250; // with a desktop that shows the window late or not at all
-    completion_.start(window_.IsFurnished() ? 0 : kPatienceMs);
-}
-
-void Shell::Furnish()
-{
-    painted_->picSelvane.ReleaseText();
-    window_.Furnish(door_, painted_->picDemo);
     window_.Match(Sim());
     window_.Describe(Sim());
 }
 
-void Shell::Complete()
+void Shell::Show()
 {
-    completion_.stop();
-    if (!window_.IsFurnished()) Furnish();
+    door_.Report([](Simulation&) {}); // timers and windows are made to match
+    window_.show();
+    window_.centralWidget()->setFocus(); // no control has it before the user's first Tab
+    window_.windowHandle()->installEventFilter(this);
+    window_.activateWindow(); // a desktop without a window manager activates nothing by itself
     QTimer::singleShot(0, this, [] {
         QApplication::setWindowIcon(ApplicationIcon());
         ReturnFreeMemory(); // starting takes more than flying
@@ -67,10 +62,7 @@ void Shell::Match(Dispatch::After after)
 bool Shell::eventFilter(QObject* watched, QEvent* event)
 {
     const bool handled = QObject::eventFilter(watched, event);
-    if (event->type() == QEvent::Expose) {
-        timers_.SetWatched(window_.windowHandle()->isExposed());
-        if (!window_.IsFurnished()) completion_.start(0); // the window is painted by then
-    }
+    if (event->type() == QEvent::Expose) timers_.SetWatched(window_.windowHandle()->isExposed());
     return handled;
 }
 

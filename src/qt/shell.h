@@ -5,12 +5,8 @@
 #include "app/simulation.h"
 #include "qt/dispatch.h"
 #include "qt/main_window.h"
-#include "qt/painted_simulation.h"
 #include "qt/timers.h"
 #include "qt/window_keeper.h"
-
-#include <QTimer>
-#include <memory>
 
 namespace selvane {
 
@@ -19,17 +15,12 @@ class Shell : public QObject
     Q_OBJECT
 
 public:
-    // What the window has when it first comes up: all of its controls, or only the main picture
-    // without its words, which needs no fonts. The rest follows at once.
-    enum class Opens { Whole, PictureFirst };
-
     // Needs the application object. The platform outlives the shell.
     explicit Shell(Platform& platform);
-    Shell(std::unique_ptr<PaintedSimulation> painted, Opens opens);
 
     void Show();
 
-    const Simulation& Sim() const { return painted_->sim; }
+    const Simulation& Sim() const { return sim_; }
     Dispatch& Door() { return door_; }
     MainWindow& Window() { return window_; }
     Timers& Clockwork() { return timers_; }
@@ -42,15 +33,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Furnish();
-    void Complete();
-
-    const std::unique_ptr<PaintedSimulation> painted_;
+    Simulation sim_;
     Dispatch door_;
     MainWindow window_;
     Timers timers_;
     WindowKeeper keeper_;
-    QTimer completion_;
 };
 
 } // namespace selvane

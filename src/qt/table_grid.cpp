@@ -5,6 +5,8 @@
 
 namespace selvane {
 
+using namespace rich_text;
+
 namespace {
 
 constexpr int kWidthUntold = 1440;    // twips, of a cell whose edge the document does not tell

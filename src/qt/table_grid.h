@@ -12,8 +12,8 @@ namespace selvane {
 struct PlacedCell
 {
     int row = 0, column = 0, rows = 1, columns = 1;
-    const CellFormat* format = nullptr;
-    std::vector<const std::vector<Block>*> contents;
+    const rich_text::CellFormat* format = nullptr;
+    std::vector<const std::vector<rich_text::Block>*> contents;
 };
 
 struct TableGrid
@@ -23,6 +23,6 @@ struct TableGrid
 };
 
 // The table outlives the grid. One with more than 20,000 places is not merged.
-TableGrid MakeGrid(const Table& table);
+TableGrid MakeGrid(const rich_text::Table& table);
 
 } // namespace selvane

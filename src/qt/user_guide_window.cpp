@@ -39,14 +39,10 @@ void UserGuideFrame::BuildPane()
     txtHelp_->setAccessibleName(tr("User guide"));
     txtHelp_->setAccessibleDescription("The text of the topic.");
     txtHelp_->move(kUserGuidePane.left, kUserGuidePane.top);
-    connect(txtHelp_, &HelpPaneWidget::documentLinkClicked, this, [this](const QString& name) {
-        door_.Act(WindowId::UserGuide, [file = name.toStdString()](Simulation& sim) {
-            FollowDocumentLink(sim, WindowId::UserGuide, file);
+    connect(txtHelp_, &HelpPaneWidget::linkClicked, this, [this](const QString& link) {
+        door_.Act(WindowId::UserGuide, [to = link.toStdString()](Simulation& sim) {
+            FollowLink(sim, WindowId::UserGuide, to);
         });
-    });
-    connect(txtHelp_, &HelpPaneWidget::webLinkClicked, this, [this](const QString& address) {
-        door_.Act(WindowId::UserGuide,
-                  [link = address.toStdString()](Simulation& sim) { sim.platform.OpenLink(link); });
     });
 }
 

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <numbers>
 
-namespace selvane {
+namespace selvane::raster {
 
 namespace {
 
@@ -34,14 +34,14 @@ struct Side
 {
     double across, up;
 
-    double Depth(double x, double y) const { return across * x + up * y; }
+    double DistanceInside(double x, double y) const { return across * x + up * y; }
 
-    // What of a stretch of the row lies at least so deep.
-    Stretch Cut(Stretch x, double y, double depth) const
+    // What of a stretch of the row lies at least so far inside.
+    Stretch Cut(Stretch x, double y, double distance) const
     {
         constexpr double kLevel = 1e-12;
-        if (std::fabs(across) < kLevel) return up * y >= depth ? x : kNothing;
-        const double bound = (depth - up * y) / across;
+        if (std::fabs(across) < kLevel) return up * y >= distance ? x : kNothing;
+        const double bound = (distance - up * y) / across;
         return across > 0 ? Stretch{std::max(x.low, bound), x.high}
                           : Stretch{x.low, std::min(x.high, bound)};
     }
@@ -65,14 +65,14 @@ double Span(const Wedge& wedge)
     return span > 0 ? span : span + kTurn;
 }
 
-// `Depth` is how far inside the nearest edge a place lies; `Deep` the stretch of a row that lies at
-// least so deep.
+// `DistanceInside` is how far inside the nearest edge a place lies, below 0 outside; `Inset` the
+// stretch of a row that lies at least so far inside.
 struct Disc
 {
     double radius;
 
-    double Depth(double x, double y) const { return radius - std::sqrt(x * x + y * y); }
-    Stretch Deep(double y, double depth) const { return Chord(radius - depth, y); }
+    double DistanceInside(double x, double y) const { return radius - std::sqrt(x * x + y * y); }
+    Stretch Inset(double y, double distance) const { return Chord(radius - distance, y); }
 };
 
 // Of at most half a turn, so that it has one stretch in each row.
@@ -82,15 +82,15 @@ struct Sector
     Side afterStart, beforeEnd;
     double grow;
 
-    double Depth(double x, double y) const
+    double DistanceInside(double x, double y) const
     {
-        const double fromSides = std::min(afterStart.Depth(x, y), beforeEnd.Depth(x, y));
-        return std::min(disc.Depth(x, y), fromSides + grow);
+        const double fromSides = std::min(afterStart.DistanceInside(x, y), beforeEnd.DistanceInside(x, y));
+        return std::min(disc.DistanceInside(x, y), fromSides + grow);
     }
-    Stretch Deep(double y, double depth) const
+    Stretch Inset(double y, double distance) const
     {
-        const Stretch x = afterStart.Cut(disc.Deep(y, depth), y, depth - grow);
-        return beforeEnd.Cut(x, y, depth - grow);
+        const Stretch x = afterStart.Cut(disc.Inset(y, distance), y, distance - grow);
+        return beforeEnd.Cut(x, y, distance - grow);
     }
 };
 
@@ -104,7 +104,7 @@ struct Edge
 template <typename Shape> void Soften(const Shape& shape, const Edge& edge, int from, int end)
 {
     for (int at = from; at < end; ++at)
-        Blend(edge.row[at], edge.pixel, shape.Depth(at + 0.5 - edge.centreX, edge.y) + kSoft);
+        Blend(edge.row[at], edge.pixel, shape.DistanceInside(at + 0.5 - edge.centreX, edge.y) + kSoft);
 }
 
 template <typename Shape>
@@ -112,11 +112,11 @@ void FillRow(const Canvas& canvas, const Shape& shape, DevicePoint centre, int r
 {
     const double y = centre.y - (row + 0.5);
     const auto pixelsOf = [&](const Stretch& x) {
-        return Clipped(CentresWithin(centre.x + x.low, centre.x + x.high), canvas.width);
+        return Common(CentresWithin(centre.x + x.low, centre.x + x.high), canvas.clip.across);
     };
-    const Run any = pixelsOf(shape.Deep(y, -kSoft));
+    const Run any = pixelsOf(shape.Inset(y, -kSoft));
     if (any.IsEmpty()) return;
-    Run whole = pixelsOf(shape.Deep(y, kSoft));
+    Run whole = pixelsOf(shape.Inset(y, kSoft));
     if (whole.IsEmpty()) whole = {any.end, any.end};
     const Edge edge{canvas.Row(row), centre.x, y, pixel};
     Soften(shape, edge, any.first, whole.first);
@@ -126,7 +126,7 @@ void FillRow(const Canvas& canvas, const Shape& shape, DevicePoint centre, int r
 
 Run RowsOf(const Canvas& canvas, DevicePoint centre, double reach)
 {
-    return Clipped(CentresWithin(centre.y - reach, centre.y + reach), canvas.height);
+    return Common(CentresWithin(centre.y - reach, centre.y + reach), canvas.clip.down);
 }
 
 template <typename Shape>
@@ -151,7 +151,7 @@ void ForEachRun(const Canvas& canvas, DevicePoint centre, double radius, double 
         const Stretch all = Chord(outer, y);
         const Stretch hollow = Chord(inner, y);
         const auto pixelsOf = [&](double low, double high) {
-            return Clipped(CentresWithin(centre.x + low, centre.x + high), canvas.width);
+            return Common(CentresWithin(centre.x + low, centre.x + high), canvas.clip.across);
         };
         if (hollow.high < hollow.low) {
             take(row, pixelsOf(all.low, all.high));
@@ -201,11 +201,11 @@ void DrawArc(const Canvas& canvas, DevicePoint centre, double radius, double thi
         const double y = centre.y - (row + 0.5);
         for (int at = run.first; at < run.end; ++at) {
             const double x = at + 0.5 - centre.x;
-            const bool first = afterStart.Depth(x, y) >= reach;
-            const bool second = beforeEnd.Depth(x, y) >= reach;
+            const bool first = afterStart.DistanceInside(x, y) >= reach;
+            const bool second = beforeEnd.DistanceInside(x, y) >= reach;
             if (wide ? first || second : first && second) canvas.Row(row)[at] = pixel;
         }
     });
 }
 
-} // namespace selvane
+} // namespace selvane::raster

@@ -7,7 +7,7 @@
 #include <optional>
 #include <utility>
 
-namespace selvane {
+namespace selvane::raster {
 
 namespace {
 
@@ -69,16 +69,11 @@ void SmoothLine(DevicePoint from, DevicePoint to, double thickness, Pixel pixel,
 
 void FillBox(const Canvas& canvas, const Box& box, Pixel pixel)
 {
-    const auto [across, down] = Clipped(box, canvas);
+    const auto [across, down] = Common(box, canvas.clip);
     for (int y = down.first; y < down.end; ++y) {
         Pixel* const row = canvas.Row(y);
         for (int x = across.first; x < across.end; ++x) row[x] = pixel;
     }
-}
-
-void Clear(const Canvas& canvas, Pixel pixel)
-{
-    std::fill(canvas.pixels, canvas.Row(canvas.height), pixel);
 }
 
 void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness, Pixel pixel)
@@ -94,7 +89,8 @@ void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thi
     const std::optional<Segment> line = Visible(canvas, {from, to}, thickness + 1);
     if (!line) return;
     const auto at = [&canvas](int x, int y) -> Pixel* {
-        const bool outside = x < 0 || y < 0 || x >= canvas.width || y >= canvas.height;
+        const auto& [across, down] = canvas.clip;
+        const bool outside = x < across.first || y < down.first || x >= across.end || y >= down.end;
         return outside ? nullptr : canvas.Row(y) + x;
     };
     if (right - left >= bottom - top) // the same of the part that is seen
@@ -106,8 +102,8 @@ void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thi
 
 void DrawMask(const Canvas& canvas, int left, int top, const Mask& mask, Pixel pixel)
 {
-    const Run across = Clipped({left, left + mask.width}, canvas.width);
-    const Run down = Clipped({top, top + mask.height}, canvas.height);
+    const Run across = Common({left, left + mask.width}, canvas.clip.across);
+    const Run down = Common({top, top + mask.height}, canvas.clip.down);
     for (int y = down.first; y < down.end; ++y) {
         const std::uint8_t* const row = mask.coverage.data() + (y - top) * mask.width - left;
         for (int x = across.first; x < across.end; ++x) {
@@ -117,4 +113,4 @@ void DrawMask(const Canvas& canvas, int left, int top, const Mask& mask, Pixel p
     }
 }
 
-} // namespace selvane
+} // namespace selvane::raster

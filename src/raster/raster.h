@@ -1,5 +1,5 @@
 // Raster: draws into a canvas of 32-bit pixels, in device pixels. x grows to the right, y downward;
-// pixel (i, j) covers i to i + 1 and j to j + 1. Whatever lies outside the canvas is clipped.
+// pixel (i, j) covers i to i + 1 and j to j + 1.
 #pragma once
 
 #include "app/colour.h"
@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <span>
 
-namespace selvane {
+namespace selvane::raster {
 
 using Pixel = std::uint32_t; // 0xffRRGGBB
 
@@ -18,11 +18,31 @@ constexpr Pixel PixelOf(Colour colour)
            static_cast<Pixel>(colour.green) << 8 | static_cast<Pixel>(colour.blue);
 }
 
-// A view of pixels that someone else holds, row upon row.
+// Pixels from `first` up to, not including, `end`.
+struct Run
+{
+    int first, end;
+
+    bool IsEmpty() const { return first >= end; }
+    bool operator==(const Run&) const = default;
+};
+
+// Empty where either run is.
+struct Box
+{
+    Run across, down;
+
+    bool IsEmpty() const { return across.IsEmpty() || down.IsEmpty(); }
+    bool operator==(const Box&) const = default;
+};
+
+// A view of pixels that someone else holds, row upon row. Only those within `clip`, which lies
+// within the canvas, are drawn on; each becomes what it would be without the clipping.
 struct Canvas
 {
     Pixel* pixels;
     int width, height;
+    Box clip{{0, width}, {0, height}};
 
     Pixel* Row(int y) const
     {
@@ -44,7 +64,7 @@ struct Wedge
     double start, end;
 };
 
-void Clear(const Canvas& canvas, Pixel pixel);
+void FillBox(const Canvas& canvas, const Box& box, Pixel pixel);
 
 // Both ends are part of it. Level and upright lines are crisp, all others smoothed.
 void DrawLine(const Canvas& canvas, DevicePoint from, DevicePoint to, double thickness,
@@ -72,4 +92,4 @@ struct Mask
 
 void DrawMask(const Canvas& canvas, int left, int top, const Mask& mask, Pixel pixel);
 
-} // namespace selvane
+} // namespace selvane::raster

@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace selvane {
+namespace selvane::raster {
 
 // The whole number at or below a coordinate of any size.
 inline int WholeBelow(double coordinate)
@@ -22,30 +22,25 @@ inline int NearestWhole(double coordinate)
     return WholeBelow(coordinate + 0.5);
 }
 
-// Pixels from `first` up to, not including, `end`.
-struct Run
+inline Run Common(Run one, Run other)
 {
-    int first, end;
-
-    bool IsEmpty() const { return first >= end; }
-};
-
-inline Run Clipped(Run run, int limit)
-{
-    return {std::max(run.first, 0), std::min(run.end, limit)};
+    return {std::max(one.first, other.first), std::min(one.end, other.end)};
 }
 
-// Empty where either run is.
-struct Box
+inline Box Common(const Box& one, const Box& other)
 {
-    Run across, down;
+    return {Common(one.across, other.across), Common(one.down, other.down)};
+}
 
-    bool IsEmpty() const { return across.IsEmpty() || down.IsEmpty(); }
-};
-
-inline Box Clipped(const Box& box, const Canvas& canvas)
+// The smallest box round both; an empty one counts for nothing.
+inline Box Around(const Box& one, const Box& other)
 {
-    return {Clipped(box.across, canvas.width), Clipped(box.down, canvas.height)};
+    if (one.IsEmpty()) return other;
+    if (other.IsEmpty()) return one;
+    const auto around = [](Run a, Run b) {
+        return Run{std::min(a.first, b.first), std::max(a.end, b.end)};
+    };
+    return {around(one.across, other.across), around(one.down, other.down)};
 }
 
 // The square about a centre, moved to the nearest whole pixels.
@@ -67,8 +62,6 @@ inline void FillRun(Pixel* row, Run run, Pixel pixel)
     if (!run.IsEmpty()) std::fill(row + run.first, row + run.end, pixel);
 }
 
-void FillBox(const Canvas& canvas, const Box& box, Pixel pixel);
-
 // The weight of a colour that replaces what is below; 0 leaves that.
 inline constexpr std::uint32_t kWhole = 256;
 
@@ -88,4 +81,4 @@ inline void Blend(Pixel& below, Pixel above, double coverage)
     below = Mix(below, above, static_cast<std::uint32_t>(weight));
 }
 
-} // namespace selvane
+} // namespace selvane::raster

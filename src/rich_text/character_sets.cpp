@@ -2,7 +2,7 @@
 
 #include "rich_text/code_page_tables.h"
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -186,4 +186,4 @@ void ByteDecoder::FeedUtf8(std::uint8_t byte, std::string& text)
     Reset();
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

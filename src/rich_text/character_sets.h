@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 inline constexpr std::int32_t kWesternPage = 1252;
 inline constexpr std::int32_t kUtf8Page = 65001;
@@ -42,4 +42,4 @@ private:
     std::int32_t page_ = kWesternPage;
 };
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -137,4 +137,4 @@ char16_t SymbolCharacter(std::uint8_t byte)
     return byte < 0x20 ? kUndefined : kSymbol[byte - 0x20];
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

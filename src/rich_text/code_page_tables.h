@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 inline constexpr char16_t kUndefined = 0xFFFD;
 
@@ -15,4 +15,4 @@ const char16_t* SingleByteTable(std::int32_t page);
 // What a byte 20 to FF means in the Symbol font, kUndefined where nothing.
 char16_t SymbolCharacter(std::uint8_t byte);
 
-} // namespace selvane
+} // namespace selvane::rich_text

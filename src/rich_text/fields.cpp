@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -130,4 +130,4 @@ std::optional<SymbolField> ParseSymbolField(std::string_view instruction)
     return symbol;
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

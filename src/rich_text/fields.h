@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 // The target of a HYPERLINK, "#part" if only a part is named; empty if it is none.
 std::string LinkTarget(std::string_view instruction);
@@ -20,4 +20,4 @@ struct SymbolField
 
 std::optional<SymbolField> ParseSymbolField(std::string_view instruction);
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -4,7 +4,7 @@
 #include <iterator>
 #include <utility>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -147,4 +147,4 @@ void RichTextFlow::FinishRow(Level& level, const RowDefinition& definition)
     level.table.rows.push_back(std::exchange(level.row, {}));
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 inline constexpr std::size_t kMaxTableNesting = 8;
 
@@ -88,4 +88,4 @@ private:
     RowDefinition nestedDefinition_;
 };
 
-} // namespace selvane
+} // namespace selvane::rich_text

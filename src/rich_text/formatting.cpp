@@ -3,7 +3,7 @@
 
 #include <utility>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -230,4 +230,4 @@ void RichTextInterpreter::Break(const Token& token, std::int32_t)
     if (Flow().HasPendingRuns()) EndParagraph(token, 0);
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -158,4 +158,4 @@ std::int8_t HeadingStyles::Level(std::int32_t style) const
     return found == levels_.end() ? std::int8_t{0} : found->second;
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -11,7 +11,7 @@
 #include <unordered_map>
 #include <vector>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 inline constexpr std::size_t kMaxHeaderEntries = 65'536; // of each table; more are ignored
 
@@ -82,4 +82,4 @@ private:
     std::int32_t current_ = 0;
 };
 
-} // namespace selvane
+} // namespace selvane::rich_text

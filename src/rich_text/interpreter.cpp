@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -323,4 +323,4 @@ void RichTextInterpreter::EmitToBody(std::string_view text)
     Flow().Append(text, state_.character, state_.link);
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

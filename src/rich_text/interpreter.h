@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 class RichTextInterpreter
 {
@@ -262,4 +262,4 @@ private:
     std::vector<Stream> streams_; // never empty; the innermost text box last
 };
 
-} // namespace selvane
+} // namespace selvane::rich_text

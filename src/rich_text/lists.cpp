@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -193,4 +193,4 @@ std::string ListTables::Label(const List& list, const Override& override, std::s
     return label;
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

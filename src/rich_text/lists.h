@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 inline constexpr std::size_t kListLevels = 9;
 inline constexpr std::size_t kMaxLabelBytes = 256; // what a longer one has more is dropped
@@ -78,4 +78,4 @@ private:
     std::size_t overrideLevel_ = 0; // counted from 1
 };
 
-} // namespace selvane
+} // namespace selvane::rich_text

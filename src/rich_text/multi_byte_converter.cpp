@@ -3,7 +3,7 @@
 #include <array>
 #include <iconv.h>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -78,4 +78,4 @@ std::string MultiByteConverter::Convert(std::int32_t page, std::uint8_t lead, st
     return handle->Convert({static_cast<char>(lead), static_cast<char>(trail)});
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

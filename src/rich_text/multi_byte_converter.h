@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 class MultiByteConverter
 {
@@ -27,4 +27,4 @@ private:
     std::map<std::int32_t, std::unique_ptr<Handle>> handles_; // opened when first asked for
 };
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -118,4 +118,4 @@ Picture PictureReader::Finish(std::size_t bytesBefore)
     return picture;
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

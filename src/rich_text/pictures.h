@@ -5,7 +5,7 @@
 
 #include <string_view>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 inline constexpr std::size_t kMaxPictureBytes = std::size_t{16} << 20;
 inline constexpr std::size_t kMaxAllPictureBytes = std::size_t{64} << 20;
@@ -35,4 +35,4 @@ private:
     bool isTooBig_ = false;
 };
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -5,7 +5,7 @@
 #include <fstream>
 #include <string>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -61,4 +61,4 @@ RichTextResult ReadRichTextFile(const std::filesystem::path& path) noexcept
     }
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <variant>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 enum class RichTextError {
     CannotOpen, // missing, unreadable, or no plain file (a pipe, a device)
@@ -25,4 +25,4 @@ inline constexpr std::size_t kMaxRichTextBytes = std::size_t{32} << 20;
 RichTextResult ReadRichText(std::string_view bytes) noexcept;
 RichTextResult ReadRichTextFile(const std::filesystem::path& path) noexcept;
 
-} // namespace selvane
+} // namespace selvane::rich_text

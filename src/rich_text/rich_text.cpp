@@ -1,6 +1,6 @@
 #include "rich_text/rich_text.h"
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -40,4 +40,4 @@ std::string PlainText(const std::vector<Block>& blocks)
     return text;
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

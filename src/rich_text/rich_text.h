@@ -11,7 +11,7 @@
 #include <variant>
 #include <vector>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 inline constexpr int kTwipsPerPoint = 20;
 inline constexpr int kTwipsPerPixel = 15; // at 96 dots per inch
@@ -152,4 +152,4 @@ std::string PlainText(const std::vector<Block>& blocks);
 // All paragraphs in reading order, those of cells where their table stands.
 std::vector<const Paragraph*> Paragraphs(const std::vector<Block>& blocks);
 
-} // namespace selvane
+} // namespace selvane::rich_text

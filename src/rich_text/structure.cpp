@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -433,4 +433,4 @@ void RichTextInterpreter::EndNestedRow(const Token& token, std::int32_t)
     Flow().EndRow(2);
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -145,4 +145,4 @@ void RichTextTokens::SkipGroup()
     }
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

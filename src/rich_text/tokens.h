@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 enum class TokenKind : std::uint8_t { GroupStart, GroupEnd, Word, Symbol, Byte, Text, Binary, End };
 
@@ -50,4 +50,4 @@ private:
 // 0 to 15, or -1.
 int HexDigit(char character);
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -3,7 +3,7 @@
 
 #include <unordered_map>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 namespace {
 
@@ -236,4 +236,4 @@ const RichTextInterpreter::WordRow* RichTextInterpreter::FindWord(std::string_vi
     return found == kIndex.end() ? nullptr : &found->second;
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

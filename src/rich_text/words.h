@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 struct RichTextInterpreter::WordRow
 {
@@ -49,4 +49,4 @@ template <auto Member> void RichTextInterpreter::PictureLength(const Token& toke
     picture_.*Member = NumberOf(token);
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -15,7 +15,7 @@ namespace {
 // The north marker behind this globe keeps the Earth's direction on every planet.
 constexpr double kFarNorthAxisDeg = 66.6;
 
-void DrawRing(Simulation& sim, RememberedRing& remembered, double inclination, double roll)
+void DrawRing(Simulation& sim, double inclination, double roll)
 {
     SimState& state = sim.state;
     state.Incl = inclination;
@@ -24,13 +24,12 @@ void DrawRing(Simulation& sim, RememberedRing& remembered, double inclination, d
     state.PosLon = Radians(state, state.Incl);
     state.PosRadius = state.PlanetPx;
     LoadNegativeView(sim);
-    const Ring& ring =
-        remembered({state.PosRadius, {state.PosLon, state.PosRoll, state.ViewRad}},
-                   [](const RingPlace& at, Ring& made) { MakeRing(WholeDegrees(), at, made); });
-    PlotNearHalf(sim.picSelvane, ring, state.PlanetX, state.PlanetY);
-    state.PosLat = WholeDegrees().back().radians;
+    const Turn turn{state.PosLon, state.PosRoll, state.ViewRad};
+    const Projected last = PlotNearHalf(sim.picSelvane, kWholeDegrees, {state.PosRadius, turn},
+                                        {state.PlanetX, state.PlanetY});
+    state.PosLat = kWholeDegrees.back().radians;
     state.SatDeg = kRingPoints;
-    StoreProjected(state, ring.last);
+    StoreProjected(state, last);
 }
 
 // The equator and two meridians a quarter turn apart.
@@ -39,10 +38,9 @@ void Graticule(Simulation& sim)
     const double tilt = sim.state.PlanetTilt;
     const double quarter = sim.state.Pi / 2;
     sim.picSelvane.ForeColor = RGB(159, 159, 159);
-    static RememberedRing equator, meridian, quarterTurnFromIt;
-    DrawRing(sim, equator, -tilt, 0);
-    DrawRing(sim, meridian, 90 - tilt, 0);
-    DrawRing(sim, quarterTurnFromIt, 90 - tilt * std::cos(quarter), quarter);
+    DrawRing(sim, -tilt, 0);
+    DrawRing(sim, 90 - tilt, 0);
+    DrawRing(sim, 90 - tilt * std::cos(quarter), quarter);
     sim.picSelvane.ForeColor = RGB(191, 191, 191);
 }
 
@@ -51,7 +49,7 @@ void Graticule(Simulation& sim)
 void DrawPlanet(Simulation& sim)
 {
     SimState& state = sim.state;
-    state.CurPic = &sim.picSelvane;
+    state.CurPic = PictureId::picSelvane;
     state.SunX = 0;
     state.SunY = 0;
     state.ViewDeg = Number(sim, txtView);

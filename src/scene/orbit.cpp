@@ -2,6 +2,7 @@
 
 #include "app/simulation.h"
 #include "scene/orbit_elements.h"
+#include "scene/orbit_values.h"
 #include "scene/ring.h"
 
 #include <array>
@@ -17,8 +18,6 @@ struct OrbitPlace
     double semiMajor, eccentricity; // display units, none
     double farthest;                // in-plane angle of the largest radius
     Turn turn;
-
-    bool operator==(const OrbitPlace&) const = default;
 };
 
 struct OrbitSample
@@ -29,7 +28,6 @@ struct OrbitSample
 
 // A sample a degree; the last is the first once more.
 using OrbitPath = std::array<OrbitSample, kRingPoints>;
-using RememberedPath = Remembered<OrbitPlace, OrbitPath>;
 
 struct PairFields
 {
@@ -48,7 +46,7 @@ OrbitReading ReadShape(const Simulation& sim)
     const double planetRadius = sim.state.PlanetRadius;
     switch (sim.state.ShapeInput) {
     case ShapePair::Axis:
-        return FromAxes(WholeNumber(sim, txtSMajAxis), WholeNumber(sim, txtSMinAxis), planetRadius);
+        return FromAxes(StrictNumber(sim, txtSMajAxis), StrictNumber(sim, txtSMinAxis), planetRadius);
     case ShapePair::Apsis:
         return FromApsides(Number(sim, txtPeri), Number(sim, txtApo), planetRadius);
     case ShapePair::E:
@@ -105,30 +103,31 @@ void ReadOrientation(Simulation& sim)
     state.ARGP = Number(sim, txtARGP) + 90;
 }
 
-void MakePath(const OrbitPlace& place, OrbitPath& path)
+OrbitPath PathOf(const OrbitPlace& place)
 {
+    OrbitPath path;
     const Projection project(place.turn);
     for (std::size_t at = 0; at < path.size(); ++at) {
-        const InPlaneAngle& angle = WholeDegrees()[at];
+        const InPlaneAngle& angle = kWholeDegrees[at];
         path[at].radius =
             RadiusAt(place.semiMajor, place.eccentricity, angle.radians - place.farthest);
         path[at].point = project(path[at].radius, angle.cosine, angle.sine);
     }
+    return path;
 }
 
-const OrbitPath& Follow(const SimState& state, RememberedPath& remembered)
+OrbitPath PresentPath(const SimState& state)
 {
-    return remembered({state.SMajAxisPx,
-                       state.Ecc,
-                       Radians(state, state.ARGP),
-                       {state.PosLon, state.PosRoll, state.ViewRad}},
-                      MakePath);
+    return PathOf({state.SMajAxisPx,
+                   state.Ecc,
+                   Radians(state, state.ARGP),
+                   {state.PosLon, state.PosRoll, state.ViewRad}});
 }
 
 void Plot(Simulation& sim, const OrbitPath& path)
 {
     const SimState& state = sim.state;
-    DrawingSurface& picture = sim.picSelvane;
+    Picture& picture = sim.picSelvane;
     for (const auto& [radius, point] : path) {
         picture.ForeColor = IsInShadow(point, state.PlanetPx) ? RGB(127, 127, 127) : kWhite;
         if (IsInSight(point, state.PlanetPx))
@@ -171,7 +170,7 @@ void SumEclipse(SimState& state, const OrbitPath& path)
 // What the loops leave behind: the last sample is the projection's present point.
 void LeaveLastSample(SimState& state, const OrbitSample& last)
 {
-    state.PosLat = WholeDegrees().back().radians;
+    state.PosLat = kWholeDegrees.back().radians;
     state.PosRadius = last.radius;
     StoreProjected(state, last.point);
     state.SatDeg = kRingPoints;
@@ -185,13 +184,12 @@ void DrawOrbit(Simulation& sim)
     DeriveElements(sim);
     DerivePeriodAndScale(state);
     ReadOrientation(sim);
-    static RememberedPath plotted, referred;
-    Plot(sim, Follow(state, plotted));
-    const OrbitPath& shadowed =
-        ReferToTheSun(state) ? Follow(state, referred) : Follow(state, plotted);
-    SumEclipse(state, shadowed);
-    LeaveLastSample(state, shadowed.back());
-    sim.wiring.PrintValues(sim);
+    OrbitPath path = PresentPath(state);
+    Plot(sim, path);
+    if (ReferToTheSun(state)) path = PresentPath(state);
+    SumEclipse(state, path);
+    LeaveLastSample(state, path.back());
+    PrintValues(sim);
 }
 
 } // namespace selvane

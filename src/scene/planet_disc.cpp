@@ -13,7 +13,7 @@ namespace {
 // A sector's angles stay within a full turn in size, so the half that crosses the +x axis takes two
 // calls. An angle of 0 is not negative and draws no radius, so three quarters of a turn takes a
 // closed half besides.
-void DayHalf(const SimState& state, DrawingSurface& picture)
+void DayHalf(const SimState& state, Picture& picture)
 {
     const double pi = state.Pi;
     const double helio = Snapped(Snapped(state.HelioRad, 0.5 * pi, pi), 1.5 * pi, pi);
@@ -46,8 +46,8 @@ Colour RowColour(double y, double radius)
 void BarePlanet(Simulation& sim)
 {
     SimState& state = sim.state;
-    state.CurPic = state.OrbitMode == Scenario::Tutorial ? &sim.picDemo : &sim.picSelvane;
-    DrawingSurface& picture = *state.CurPic;
+    state.CurPic = state.OrbitMode == Scenario::Tutorial ? PictureId::picDemo : PictureId::picSelvane;
+    Picture& picture = CurrentPicture(sim);
 
     picture.ForeColor = picture.FillColor = state.PlanetDark;
     picture.Circle(state.PlanetX, state.PlanetY, state.PlanetPx, state.PlanetDark);
@@ -58,7 +58,7 @@ void BarePlanet(Simulation& sim)
 
 void BarePlanetD(Simulation& sim)
 {
-    DrawingSurface& picture = *sim.state.CurPic;
+    Picture& picture = CurrentPicture(sim);
     const double radius = sim.state.PlanetPx;
     const Colour night = RGB(0, 0, 127);
     for (double ring = radius; ring >= 1; --ring) {

@@ -1,6 +1,6 @@
 #include "scene/ring.h"
 
-#include "app/drawing_surface.h"
+#include "app/picture.h"
 
 #include <cmath>
 #include <cstddef>
@@ -8,6 +8,8 @@
 namespace selvane {
 
 namespace {
+
+const double kPi = 4 * std::atan(1.0); // as the state has it
 
 template <typename Angle> InPlaneAngles MakeAngles(Angle angle)
 {
@@ -19,46 +21,27 @@ template <typename Angle> InPlaneAngles MakeAngles(Angle angle)
     return angles;
 }
 
-double PiOfTheState()
-{
-    return 4 * std::atan(1.0);
-}
-
 } // namespace
 
-const InPlaneAngles& WholeDegrees()
-{
-    static const InPlaneAngles angles = MakeAngles(
-        [](std::size_t degree) { return static_cast<double>(degree) * PiOfTheState() / 180; });
-    return angles;
-}
+const InPlaneAngles kWholeDegrees =
+    MakeAngles([](std::size_t degree) { return static_cast<double>(degree) * kPi / 180; });
 
-const InPlaneAngles& RunningSum()
-{
-    static const InPlaneAngles angles = MakeAngles([sum = 0.0](std::size_t) mutable {
-        const double radians = sum;
-        sum += PiOfTheState() / 180;
-        return radians;
-    });
-    return angles;
-}
+const InPlaneAngles kRunningSum = MakeAngles([sum = 0.0](std::size_t) mutable {
+    const double radians = sum;
+    sum += kPi / 180;
+    return radians;
+});
 
-void MakeRing(const InPlaneAngles& angles, const RingPlace& place, Ring& ring)
+Projected PlotNearHalf(Picture& picture, const InPlaneAngles& angles, const RingPlace& ring,
+                       Centre centre)
 {
-    const Projection project(place.turn);
-    ring.count = 0;
+    const Projection project(ring.turn);
     for (const InPlaneAngle& angle : angles) {
-        if (project.IsSurelyBehind(place.radius, angle.cosine, angle.sine)) continue;
-        const Projected point = project(place.radius, angle.cosine, angle.sine);
-        if (point.z > 0) ring.dots[ring.count++] = {point.x, point.y};
+        if (project.IsSurelyBehind(ring.radius, angle.cosine, angle.sine)) continue;
+        const Projected point = project(ring.radius, angle.cosine, angle.sine);
+        if (point.z > 0) picture.PSet(point.x + centre.x, point.y + centre.y);
     }
-    ring.last = project(place.radius, angles.back().cosine, angles.back().sine);
-}
-
-void PlotNearHalf(DrawingSurface& picture, const Ring& ring, double centreX, double centreY)
-{
-    for (std::size_t at = 0; at < ring.count; ++at)
-        picture.PSet(ring.dots[at].x + centreX, ring.dots[at].y + centreY);
+    return project(ring.radius, angles.back().cosine, angles.back().sine);
 }
 
 } // namespace selvane

@@ -1,16 +1,14 @@
 // A ring: a circle of 361 projected points, a point a degree, the last one the first once more, of
-// which only the near half is drawn. What a ring repeats is worked out once: the sines and cosines
-// of its angles, and all of it while it keeps its place.
+// which only the near half is drawn.
 #pragma once
 
 #include "scene/projection.h"
 
 #include <array>
-#include <cstddef>
 
 namespace selvane {
 
-class DrawingSurface;
+struct Picture;
 
 inline constexpr int kRingPoints = 361;
 
@@ -21,57 +19,25 @@ struct InPlaneAngle
 using InPlaneAngles = std::array<InPlaneAngle, kRingPoints>;
 
 // Each whole degree times Pi / 180.
-const InPlaneAngles& WholeDegrees();
+extern const InPlaneAngles kWholeDegrees;
 
 // The running sum of Pi / 180 from 0; differs from the above in its last digits.
-const InPlaneAngles& RunningSum();
+extern const InPlaneAngles kRunningSum;
 
 struct RingPlace
 {
     double radius; // display units
     Turn turn;
-
-    bool operator==(const RingPlace&) const = default;
 };
 
-struct RingDot
+struct Centre
 {
-    double x, y; // from the ring's centre
+    double x, y; // display units
 };
 
-struct Ring
-{
-    std::array<RingDot, kRingPoints> dots; // those with z > 0, in their order
-    std::size_t count = 0;
-    Projected last; // the point at the full turn
-};
-
-void MakeRing(const InPlaneAngles& angles, const RingPlace& place, Ring& ring);
-
-// The dots of the ring's near half round a centre, in the picture's ForeColor.
-void PlotNearHalf(DrawingSurface& picture, const Ring& ring, double centreX, double centreY);
-
-// Remembers the last result of a pure computation: while the inputs stay to the last bit, so does
-// the result.
-template <typename Key, typename Value> class Remembered
-{
-public:
-    template <typename Make> const Value& operator()(const Key& key, Make make)
-    {
-        if (!known_ || !(key == key_)) {
-            make(key, value_);
-            key_ = key;
-            known_ = true;
-        }
-        return value_;
-    }
-
-private:
-    Key key_{};
-    Value value_{};
-    bool known_ = false;
-};
-
-using RememberedRing = Remembered<RingPlace, Ring>;
+// Plots the dots of the ring's near half, those with z > 0, in the picture's ForeColor. Returns the
+// point at the full turn, from the ring's centre.
+Projected PlotNearHalf(Picture& picture, const InPlaneAngles& angles, const RingPlace& ring,
+                       Centre centre);
 
 } // namespace selvane

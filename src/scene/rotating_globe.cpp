@@ -35,30 +35,28 @@ SunPlace PlaceOfSun(Scenario mode)
     return IsSunCentred(mode) ? SunPlace::Origin : SunPlace::Nowhere;
 }
 
-void DrawRing(Simulation& sim, RememberedRing& remembered, double inclination, double roll)
+void DrawRing(Simulation& sim, double inclination, double roll)
 {
     SimState& state = sim.state;
     state.GlobeInclDeg = inclination;
     state.GlobePosLon = Radians(state, inclination);
     state.GlobePosRoll = roll;
-    const Ring& ring =
-        remembered({state.PosRadius, {state.GlobePosLon, state.GlobePosRoll, state.GlobeViewRad}},
-                   [](const RingPlace& at, Ring& made) { MakeRing(RunningSum(), at, made); });
-    PlotNearHalf(sim.picSelvane, ring, state.PlanetX, state.PlanetY);
-    StoreProjected(state, ring.last);
+    const Turn turn{state.GlobePosLon, state.GlobePosRoll, state.GlobeViewRad};
+    const Projected last = PlotNearHalf(sim.picSelvane, kRunningSum, {state.PosRadius, turn},
+                                        {state.PlanetX, state.PlanetY});
+    StoreProjected(state, last);
 }
 
 void Equator(Simulation& sim)
 {
     SimState& state = sim.state;
     state.GlobeViewRad = Radians(state, state.GlobeViewDeg);
-    static RememberedRing ring;
-    DrawRing(sim, ring, -state.PlanetTilt, 0);
+    DrawRing(sim, -state.PlanetTilt, 0);
 }
 
-void Meridian(Simulation& sim, RememberedRing& ring, double roll)
+void Meridian(Simulation& sim, double roll)
 {
-    DrawRing(sim, ring, 90 - sim.state.PlanetTilt * std::cos(roll), roll);
+    DrawRing(sim, 90 - sim.state.PlanetTilt * std::cos(roll), roll);
 }
 
 // One correction only: a step of more than a turn leaves the rotation above 360, and nothing is
@@ -87,8 +85,8 @@ void ShowClock(Simulation& sim)
 void RotatingPlanet(Simulation& sim)
 {
     SimState& state = sim.state;
-    DrawingSurface& picture = sim.picSelvane;
-    state.CurPic = &picture;
+    Picture& picture = sim.picSelvane;
+    state.CurPic = PictureId::picSelvane;
     state.PlanetPx = state.KmScale * state.PlanetRadius;
     state.ViewDeg = Number(sim, txtView); // ViewRad stays as the last projection left it
     PlaceBodies(sim);
@@ -103,10 +101,9 @@ void RotatingPlanet(Simulation& sim)
     picture.ForeColor = RGB(127, 127, 127);
     Equator(sim);
     TurnPlanet(state);
-    static RememberedRing darkMeridian, brightMeridian;
-    Meridian(sim, darkMeridian, Radians(state, state.PlanetRotDeg));
+    Meridian(sim, Radians(state, state.PlanetRotDeg));
     picture.ForeColor = RGB(191, 191, 191);
-    Meridian(sim, brightMeridian, Radians(state, state.PlanetRotDeg) + state.Pi / 2);
+    Meridian(sim, Radians(state, state.PlanetRotDeg) + state.Pi / 2);
     ShowClock(sim);
 
     state.SavedSatDeg = state.SatDeg;

@@ -50,7 +50,7 @@ void MarkerLetter(Simulation& sim, double x, double y, std::string_view letter)
 
 } // namespace
 
-void ReferenceLines(const SimState& state, DrawingSurface& picture)
+void ReferenceLines(const SimState& state, Picture& picture)
 {
     const Colour grey = RGB(95, 95, 95);
     picture.Line(picture.ScaleLeft, state.SunY, picture.ScaleWidth, state.SunY, grey);
@@ -62,7 +62,7 @@ void ReferenceLines(const SimState& state, DrawingSurface& picture)
 void SunAndSunlight(Simulation& sim, SunPlace place)
 {
     const SimState& state = sim.state;
-    DrawingSurface& picture = sim.picSelvane;
+    Picture& picture = sim.picSelvane;
     const Colour yellow = RGB(255, 255, 127);
     const Colour rim = RGB(127, 127, 0);
     picture.ForeColor = picture.FillColor = yellow;

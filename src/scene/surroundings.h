@@ -3,13 +3,13 @@
 
 namespace selvane {
 
-class DrawingSurface;
+struct Picture;
 struct SimState;
 struct Simulation;
 
 // A grey cross through the Sun and one through the planet. Their far ends use the numbers
 // ScaleWidth and ScaleHeight as coordinates. Reads SunX, SunY, PlanetX, PlanetY.
-void ReferenceLines(const SimState& state, DrawingSurface& picture);
+void ReferenceLines(const SimState& state, Picture& picture);
 
 // The yellow of the Sun, the Sun's disc and the line of sunlight to the planet. A Sun at the edge
 // stands on x = -ScaleWidth / 2; otherwise at SunX, SunY.

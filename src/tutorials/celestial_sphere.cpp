@@ -95,8 +95,8 @@ double DemoView(const Simulation& sim)
 void DemoBackdrop(Simulation& sim)
 {
     SimState& state = sim.state;
-    DrawingSurface& picture = sim.picDemo;
-    state.CurPic = &picture;
+    Picture& picture = sim.picDemo;
+    state.CurPic = PictureId::picDemo;
     picture.Cls();
     state.PosRadius = kSphereRadius;
     state.DemoViewDeg = Number(sim, txtViewD);

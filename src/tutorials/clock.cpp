@@ -43,7 +43,7 @@ LocalTime TimeAt(std::chrono::sys_seconds instant)
             static_cast<int>(clock.seconds().count())};
 }
 
-void Season(DrawingSurface& picture, double x, double y, std::string_view name,
+void Season(Picture& picture, double x, double y, std::string_view name,
             std::string_view event)
 {
     picture.Line(x, y, 0, 0, kDarkGrey);
@@ -52,7 +52,7 @@ void Season(DrawingSurface& picture, double x, double y, std::string_view name,
     TextAt(picture, x - 18, y, event);
 }
 
-void Seasons(DrawingSurface& picture)
+void Seasons(Picture& picture)
 {
     picture.FillStyle = Fill::Solid;
     picture.FillColor = kDarkGrey;
@@ -64,9 +64,9 @@ void Seasons(DrawingSurface& picture)
 
 void Times(Simulation& sim)
 {
-    DrawingSurface& picture = sim.picDemo;
-    const std::string gmt = ClockText(HoursEarlier(sim.platform.Now(), sim.state.GmtOffset));
-    const std::string local = ClockText(sim.platform.Now());
+    Picture& picture = sim.picDemo;
+    const std::string gmt = ClockText(HoursEarlier(sim.now, sim.state.GmtOffset));
+    const std::string local = ClockText(sim.now);
     TextAt(picture, picture.ScaleLeft + 2, picture.ScaleTop - 2,
            "GMT:  " + gmt + "    Local Time:  " + local);
 }
@@ -74,7 +74,7 @@ void Times(Simulation& sim)
 // The day's colour with the night half laid over it, and a white line that turns with the hours.
 void TurningEarth(Simulation& sim, const EarthOnDial& earth)
 {
-    DrawingSurface& picture = sim.picDemo;
+    Picture& picture = sim.picDemo;
     picture.Line(0, 0, earth.x, earth.y, kSunYellow);
     picture.ForeColor = picture.FillColor = kEarthDay;
     picture.Circle(earth.x, earth.y, kEarthRadius, kEarthDay);
@@ -139,14 +139,14 @@ EarthOnDial PlaceOnDial(int daysGone, int daySeconds, double gmtOffset)
 
 void tmrTime_Timer(Simulation& sim)
 {
-    DrawingSurface& picture = sim.picDemo;
+    Picture& picture = sim.picDemo;
     picture.Cls();
     picture.ForeColor = kLightGrey;
     sim.state.GmtOffset = Number(sim, txtRange);
     Times(sim);
     Seasons(picture);
-    const int daysGone = DaysGone(sim.platform.Now());
-    const int daySeconds = SecondsSinceMidnight(sim.platform.Now());
+    const int daysGone = DaysGone(sim.now);
+    const int daySeconds = SecondsSinceMidnight(sim.now);
     SunDisc(picture);
     TurningEarth(sim, PlaceOnDial(daysGone, daySeconds, sim.state.GmtOffset));
 }

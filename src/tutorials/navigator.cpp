@@ -1,5 +1,6 @@
 #include "tutorials/navigator.h"
 
+#include "app/handlers.h"
 #include "app/help_pane.h"
 #include "app/number_text.h"
 #include "app/simulation.h"
@@ -70,9 +71,9 @@ void DrawScene(Simulation& sim, const Step& step)
 }
 
 // A document that cannot be loaded is the step's all the same.
-void ShowDocument(Simulation& sim, const Step& step)
+void LoadStepDocument(Simulation& sim, const Step& step)
 {
-    Load(sim, sim.controls.txtHelp, step.document);
+    LoadDocument(sim, WindowId::Main, step.document);
     sim.state.HelpFile = step.document;
 }
 
@@ -90,10 +91,10 @@ void SetRange(Simulation& sim, const RangeSettings& range)
 void RunStep(Simulation& sim, const Step& step)
 {
     step.controls(sim);
-    sim.state.CurPic = &sim.picDemo;
+    sim.state.CurPic = PictureId::picDemo;
     DrawScene(sim, step);
-    if (step.returnsMainPicture) sim.state.CurPic = &sim.picSelvane;
-    ShowDocument(sim, step);
+    if (step.returnsMainPicture) sim.state.CurPic = PictureId::picSelvane;
+    LoadStepDocument(sim, step);
     if (step.range) SetRange(sim, *step.range);
 }
 
@@ -140,7 +141,7 @@ void mnSatelliteTracking_Click(Simulation& sim)
         Check(sim, mnSatelliteTracking, true);
         Check(sim, mnTimeStandards, false);
         DrawScene(sim, StepOf(kFirstFrame));
-        ShowDocument(sim, StepOf(kFirstFrame));
+        LoadStepDocument(sim, StepOf(kFirstFrame));
     }
     Show(sim, lblReturnToTutorial, false);
 }
@@ -155,7 +156,7 @@ void mnTimeStandards_Click(Simulation& sim)
         Check(sim, mnSatelliteTracking, false);
         Check(sim, mnTimeStandards, true);
         DrawScene(sim, first);
-        ShowDocument(sim, first);
+        LoadStepDocument(sim, first);
         SetRange(sim, *first.range);
     }
     sim.state.HelpFile = first.document;
@@ -173,7 +174,7 @@ void btnBack2_Click(Simulation& sim)
 
 void lblReturnToTutorial_Click(Simulation& sim)
 {
-    Load(sim, sim.controls.txtHelp, sim.state.HelpFile);
+    LoadDocument(sim, WindowId::Main, sim.state.HelpFile);
     Show(sim, lblReturnToTutorial, false);
 }
 

@@ -30,15 +30,15 @@ void DottedDiameter(Simulation& sim)
     state.SurfPosLon = Radians(state, state.SurfLonDeg);
     state.SurfRollDeg = state.SurfPosRoll = 0;
     state.PosRadius = state.PlanetPx;
-    Ring ring;
-    MakeRing(WholeDegrees(), {state.PosRadius, {state.SurfPosLon, state.SurfPosRoll, 0}}, ring);
-    PlotNearHalf(sim.picDemo, ring, state.PlanetX, state.PlanetY);
+    const Turn turn{state.SurfPosLon, state.SurfPosRoll, 0};
+    const Projected last = PlotNearHalf(sim.picDemo, kWholeDegrees, {state.PosRadius, turn},
+                                        {state.PlanetX, state.PlanetY});
     state.DemoLatDeg = kRingPoints;
-    state.DemoPosLat = WholeDegrees().back().radians;
-    StoreProjected(state, ring.last);
+    state.DemoPosLat = kWholeDegrees.back().radians;
+    StoreProjected(state, last);
 }
 
-void Axes(DrawingSurface& picture, double radius)
+void Axes(Picture& picture, double radius)
 {
     picture.ForeColor = kWhite;
     TextAt(picture, -6, -radius - 24, "VE");
@@ -53,8 +53,8 @@ void Axes(DrawingSurface& picture, double radius)
 
 void Demo1(Simulation& sim)
 {
-    DrawingSurface& picture = sim.picDemo;
-    sim.state.CurPic = &picture;
+    Picture& picture = sim.picDemo;
+    sim.state.CurPic = PictureId::picDemo;
     picture.Cls();
     picture.FillStyle = Fill::Solid;
     PlaceBodies(sim);

@@ -18,7 +18,7 @@ constexpr double kSiderealDaysPerYear = 366.25;
 // An Earth lit by the Sun, at that angle on its path. Its lines do not turn with the days.
 void LitEarth(Simulation& sim, double x, double y, double angle)
 {
-    DrawingSurface& picture = sim.picDemo;
+    Picture& picture = sim.picDemo;
     picture.Line(0, 0, x, y, kSunYellow);
     picture.ForeColor = picture.FillColor = kEarthNight;
     picture.Circle(x, y, kEarthRadius, kEarthNight);
@@ -46,7 +46,7 @@ std::string DaysText(double solarDays)
            (std::isfinite(siderealDays) ? FixedNumber(siderealDays, 2) : "N/A");
 }
 
-void SunDisc(DrawingSurface& picture)
+void SunDisc(Picture& picture)
 {
     picture.ForeColor = picture.FillColor = kSunYellow;
     picture.Circle(0, 0, kEarthRadius, RGB(127, 127, 0));
@@ -74,11 +74,10 @@ void EarthNearCircle(Simulation& sim, double x, double y)
 {
     SimState& state = sim.state;
     const Turn turn{state.DemoPosLon, state.DemoPosRoll, state.DemoViewRad};
-    Ring ring;
-    MakeRing(RunningSum(), {state.PosRadius, turn}, ring);
-    PlotNearHalf(sim.picDemo, ring, x, y);
-    state.DemoPosLat = RunningSum().back().radians + state.Pi / 180; // one step past the end
-    StoreProjected(state, ring.last);
+    const Projected last =
+        PlotNearHalf(sim.picDemo, kRunningSum, {state.PosRadius, turn}, {x, y});
+    state.DemoPosLat = kRunningSum.back().radians + state.Pi / 180; // one step past the end
+    StoreProjected(state, last);
 }
 
 void EarthEquator(Simulation& sim, double x, double y)
@@ -103,7 +102,7 @@ void EarthMeridian(Simulation& sim, double x, double y, double roll)
 void Demo31(Simulation& sim)
 {
     const SimState& state = sim.state;
-    DrawingSurface& picture = sim.picDemo;
+    Picture& picture = sim.picDemo;
     picture.Cls();
     ShowRangeControls(sim);
     NameRange(sim, "Solar Days", "The time between noon of one day and noon of the next day.");

@@ -9,7 +9,7 @@
 
 namespace selvane {
 
-class DrawingSurface;
+struct Picture;
 struct Simulation;
 
 inline constexpr double kEarthRadius = 30; // the Sun's disc has the same
@@ -27,7 +27,7 @@ void Demo31(Simulation& sim);
 std::string DaysText(double solarDays);
 
 // The Sun in the middle of the picture.
-void SunDisc(DrawingSurface& picture);
+void SunDisc(Picture& picture);
 
 // A filled half disc, its rim counter-clockwise from angle + Pi / 2 to angle + 3 Pi / 2: the half
 // turned away from `angle`. Angle: 0 to under 2.5 Pi, not exactly 1.5 Pi. Filled with FillColor.

@@ -25,7 +25,7 @@ Names NamesOf(SceneKey key)
     return key == SceneKey::Demo3 ? Names{"PM", "Lat", "Lon"} : Names{"VE", "Dec", "RA"};
 }
 
-void PolarAxisAndHorizontal(DrawingSurface& picture)
+void PolarAxisAndHorizontal(Picture& picture)
 {
     picture.ForeColor = kDarkGrey;
     picture.Line(0, -kSphereRadius, 0, kSphereRadius);
@@ -60,7 +60,7 @@ void Poles(Simulation& sim, double viewFactor)
     TextAt(sim.picDemo, -2, -outer + 6 - 6 * viewFactor, "S");
 }
 
-void ReferenceDirection(DrawingSurface& picture, double view, std::string_view name)
+void ReferenceDirection(Picture& picture, double view, std::string_view name)
 {
     const double outer = -kPoleLineEnd * std::cos(view);
     picture.Line(0, -kSphereRadius * std::cos(view), 0, outer);
@@ -83,7 +83,7 @@ void ProjectAt(Simulation& sim, double latDeg)
 // Its inside takes the fill colour that the picture has from the scene before.
 void SamplePoint(Simulation& sim)
 {
-    DrawingSurface& picture = sim.picDemo;
+    Picture& picture = sim.picDemo;
     picture.ForeColor = kWhite;
     DemoPlane(sim, 90, 60);
     ProjectAt(sim, kArcTo);

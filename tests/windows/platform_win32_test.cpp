@@ -1,7 +1,6 @@
 // The about box's questions to a real registry, which the test fills, and its start of a program.
-#include "app/simulation.h"
-#include "documents/about_box.h"
-#include "windows/platform_win32.h"
+#include "documents/system_information.h"
+#include "win32/platform_win32.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -61,22 +60,19 @@ protected:
     Answer Read(const std::string& path, const std::string& name)
     {
         std::string value = "before";
-        const bool read = GetKeyValue(sim_, kLocalMachine, path, name, value);
+        const bool read = GetKeyValue(machine_, kLocalMachine, path, name, value);
         return {read, value};
     }
 
     std::vector<std::string> MessagesOfSystemInfo()
     {
         machine_.messages.clear();
-        StartSysInfo(sim_);
+        StartSysInfo(machine_);
         return machine_.messages;
     }
 
 private:
-    DrawingSurface pictures_[2]{{800, 600}, {400, 300}};
     Machine machine_;
-    Wiring wiring_;
-    Simulation sim_{pictures_[0], pictures_[1], machine_, wiring_};
 };
 
 } // namespace

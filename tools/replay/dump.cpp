@@ -1,6 +1,7 @@
 #include "replay/dump.h"
 
 #include "replay/sim_fields.h"
+#include "replay/stroke_text.h"
 #include "replay/value_text.h"
 
 #include <cstdio>
@@ -92,7 +93,7 @@ void AddTimersAndMenu(Dump& dump, const Controls& controls)
             EntryOf(dump, row.name).Truth("checked", controls.menu[Index(row.id)].checked);
 }
 
-void AddPicture(Dump& dump, std::string_view name, const DrawingSurface& picture)
+void AddPicture(Dump& dump, std::string_view name, const Picture& picture)
 {
     Entry entry = EntryOf(dump, name);
     entry.Number("ScaleLeft", picture.ScaleLeft);
@@ -164,19 +165,19 @@ Dump RecordsOf(const Simulation& sim)
     return dump;
 }
 
-void AddStrokes(Dump& dump, std::string_view picture, const RecordingSurface& surface, Calls calls)
+void AddStrokes(Dump& dump, std::string_view picture, const raster::Drawing& drawing, Calls calls)
 {
     Entry entry = EntryOf(dump, picture);
-    entry.Whole("calls", static_cast<long long>(surface.Strokes().size()));
-    entry.Text("digest", Hexadecimal(surface.Digest()));
+    entry.Whole("calls", static_cast<long long>(drawing.Strokes().size()));
+    entry.Text("digest", Hexadecimal(Digest(drawing)));
     for (std::size_t kind = 0; kind < kStrokeKinds.size(); ++kind)
         entry.Whole("count." + std::string(kStrokeKinds[kind]),
-                    static_cast<long long>(surface.Count(static_cast<StrokeKind>(kind))));
+                    static_cast<long long>(Count(drawing, static_cast<raster::StrokeKind>(kind))));
     if (calls == Calls::Counted) return;
     std::size_t number = 0;
-    for (const Stroke& stroke : surface.Strokes())
+    for (const raster::Stroke& stroke : drawing.Strokes())
         dump[entry.prefix + "call." + FiveDigits(number++)] =
-            surface.LineOf(stroke, StrokeNumbers::NineDigits);
+            LineOf(drawing, stroke, StrokeNumbers::NineDigits);
 }
 
 void AddPlatform(Dump& dump, const ScriptedPlatform& platform)

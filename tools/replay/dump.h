@@ -2,7 +2,6 @@
 #pragma once
 
 #include "app/simulation.h"
-#include "replay/recording_surface.h"
 #include "replay/scripted_platform.h"
 
 #include <map>
@@ -19,7 +18,7 @@ Dump RecordsOf(const Simulation& sim);
 enum class Calls { Counted, Listed };
 
 // What was drawn since the last Cls, and what was asked of the machine.
-void AddStrokes(Dump& dump, std::string_view picture, const RecordingSurface& surface, Calls calls);
+void AddStrokes(Dump& dump, std::string_view picture, const raster::Drawing& drawing, Calls calls);
 void AddPlatform(Dump& dump, const ScriptedPlatform& platform);
 
 // What differs, as lines "key=value"; a key that is gone stands without its '='.

@@ -30,9 +30,9 @@ std::string OddText(const Player& player)
     for (const LabelRow& row : LabelTable()) // row 8 repeats what was typed
         if (row.id != lblOutput(8) && !SaysNothingOdd(controls.labels[Index(row.id)].caption))
             return std::string(row.name) + ": " + controls.labels[Index(row.id)].caption;
-    for (const Stroke& stroke : player.TutorialPicture().Strokes())
-        if (!SaysNothingOdd(player.TutorialPicture().TextOf(stroke)))
-            return std::string(player.TutorialPicture().TextOf(stroke));
+    const raster::Drawing& drawing = player.Program().picDemo.drawing;
+    for (const raster::Stroke& stroke : drawing.Strokes())
+        if (!SaysNothingOdd(drawing.TextOf(stroke))) return std::string(drawing.TextOf(stroke));
     for (const SimField& field : SimFields()) {
         const std::string text = field.text(player.Program());
         if (text == "nan" || text == "-nan" || text == "inf" || text == "-inf")
@@ -40,6 +40,9 @@ std::string OddText(const Player& player)
     }
     return "";
 }
+
+// Twice what any scene draws.
+constexpr std::size_t kMostStrokesOfAScene = 5000;
 
 int Checked(const Simulation& sim, std::initializer_list<MenuId> items)
 {
@@ -94,6 +97,10 @@ std::string BrokenPromise(const Player& player)
     if (sim.state.OrbitMode == Scenario::Tutorial || !sim.state.RedrawEnabled)
         return "a handler left half-way";
     if (sim.controls.nesting != 0) return "a handler that has not ended";
+    for (const Picture* const picture : {&sim.picSelvane, &sim.picDemo})
+        if (picture->drawing.Strokes().size() > kMostStrokesOfAScene)
+            return "strokes that pile up on a picture";
+    if (!sim.requests.empty()) return "requests that nobody has carried out";
     if (std::string bar = BrokenBar(sim); !bar.empty()) return bar;
     return OddText(player);
 }

@@ -43,14 +43,17 @@ struct Doer
 
 Refusal Player::Do(const Action& action)
 {
-    return std::visit(Doer{stage_.sim, stage_.platform}, action);
+    stage_.sim.now = stage_.platform.now;
+    Refusal refusal = std::visit(Doer{stage_.sim, stage_.platform}, action);
+    CarryOut(stage_.sim, stage_.platform);
+    return refusal;
 }
 
 Dump Player::Take(Calls calls) const
 {
     Dump dump = RecordsOf(stage_.sim);
-    AddStrokes(dump, kPicSelvane.name, stage_.picSelvane, calls);
-    AddStrokes(dump, kPicDemo.name, stage_.picDemo, calls);
+    AddStrokes(dump, kPicSelvane.name, stage_.sim.picSelvane.drawing, calls);
+    AddStrokes(dump, kPicDemo.name, stage_.sim.picDemo.drawing, calls);
     AddPlatform(dump, stage_.platform);
     return dump;
 }

@@ -24,8 +24,6 @@ public:
 
     const Simulation& Program() const { return stage_.sim; }
     const ScriptedPlatform& Machine() const { return stage_.platform; }
-    const RecordingSurface& MainPicture() const { return stage_.picSelvane; }
-    const RecordingSurface& TutorialPicture() const { return stage_.picDemo; }
 
 private:
     Stage stage_;

@@ -26,6 +26,11 @@ std::string TextOf(Colour value)
 {
     return ColourText(value);
 }
+std::string TextOf(PictureId value)
+{
+    if (value == PictureId::None) return "-";
+    return std::string(value == PictureId::picSelvane ? kPicSelvane.name : kPicDemo.name);
+}
 std::string TextOf(Scenario value)
 {
     return std::string(Text(value));
@@ -44,17 +49,12 @@ template <auto member> constexpr SimField Field(std::string_view name)
     return {name, [](const Simulation& sim) { return TextOf(sim.state.*member); }};
 }
 
-std::string CurPicText(const Simulation& sim)
-{
-    return std::string(PictureName(sim, sim.state.CurPic));
-}
-
 constexpr SimField kFields[] = {
     Field<&SimState::ARGP>("ARGP"),
     Field<&SimState::AngRate>("AngRate"),
     Field<&SimState::ApoAlt>("ApoAlt"),
     Field<&SimState::ArgpDeg>("ArgpDeg"),
-    {"CurPic", CurPicText},
+    Field<&SimState::CurPic>("CurPic"),
     Field<&SimState::CurrentDemo>("CurrentDemo"),
     Field<&SimState::Ecc>("Ecc"),
     Field<&SimState::EclipseSec>("EclipseSec"),
@@ -123,13 +123,6 @@ static_assert(std::ranges::is_sorted(kFields, {}, &SimField::name));
 std::span<const SimField> SimFields()
 {
     return kFields;
-}
-
-std::string_view PictureName(const Simulation& sim, const DrawingSurface* picture)
-{
-    if (picture == &sim.picSelvane) return kPicSelvane.name;
-    if (picture == &sim.picDemo) return kPicDemo.name;
-    return "-";
 }
 
 } // namespace selvane::replay

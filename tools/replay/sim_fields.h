@@ -18,7 +18,4 @@ struct SimField
 // In byte order of their names.
 std::span<const SimField> SimFields();
 
-// The name of one of the two pictures; "-" for none.
-std::string_view PictureName(const Simulation& sim, const DrawingSurface* picture);
-
 } // namespace selvane::replay

@@ -1,27 +1,26 @@
-// Stage: the whole program on a scripted machine, with pictures that keep their strokes.
+// Stage: the whole program on a scripted machine.
 #pragma once
 
 #include "program/program.h"
-#include "replay/recording_surface.h"
 #include "replay/scripted_platform.h"
+#include "replay/stroke_text.h"
 
 namespace selvane::replay {
 
 struct Stage
 {
     ScriptedPlatform platform;
-    RecordingSurface picSelvane{kPicSelvane.place.width, kPicSelvane.place.height};
-    RecordingSurface picDemo{kPicDemo.place.width, kPicDemo.place.height};
-    Simulation sim{picSelvane, picDemo, platform, TheWiring()};
+    Simulation sim;
 
     // The program as it stands after its first showing on that machine.
     explicit Stage(const LocalTime& time = {2012, 7, 28, 14, 48, 46},
                    std::set<std::string, std::less<>> missing = {})
     {
-        platform.now = time;
+        platform.now = sim.now = time;
         platform.missing = std::move(missing);
-        Load(sim);
-        FirstShowing(sim);
+        LoadMainWindow(sim);
+        ShowMainWindow(sim);
+        CarryOut(sim, platform);
     }
 };
 

@@ -1,5 +1,7 @@
-// The moments of the main window's life, and the default scenario.
+// The moments of the main window's life, and the choice of a planet.
 #pragma once
+
+#include "app/control_ids.h"
 
 namespace selvane {
 
@@ -15,11 +17,8 @@ void Form_Activate(Simulation& sim);
 // Closing the main window closes the about box, then the user guide.
 void Form_Unload(Simulation& sim);
 
-// Puts the simulation into its default scenario on the planet that is selected: the bars, the
-// timers, the satellite. Texts typed into the fields of bars that stand at their default stay.
-void ResetOrbit(Simulation& sim);
-
-// What row 10 of the read-outs means while a satellite flies.
-void TellTrueAnomaly(Simulation& sim);
+// A click on a planet's item. The checked one only loses its check mark; another one selects the
+// planet and resets the orbit.
+void ClickPlanet(Simulation& sim, MenuId item);
 
 } // namespace selvane

@@ -23,7 +23,4 @@ void CheckDemo(Simulation& sim, MenuId item);
 // Assigns the settings as one row: only the zoom draws on the way.
 void AssignSettings(Simulation& sim, const DemoSettings& settings);
 
-// Gives the pane the demonstration's document; the return label gives it back.
-void LoadDemoDocument(Simulation& sim, std::string_view document);
-
 } // namespace selvane

@@ -1,4 +1,4 @@
-#include "windows/platform_win32.h"
+#include "win32/platform_win32.h"
 
 #include <filesystem>
 #include <fstream>

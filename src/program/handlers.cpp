@@ -1,5 +1,5 @@
-#include "app/planets.h"
-#include "app/start_up.h"
+#include "app/handlers.h"
+
 #include "demos/earth_sun.h"
 #include "demos/prepared_orbits.h"
 #include "demos/sun_scene.h"
@@ -8,10 +8,10 @@
 #include "model/satellite_motion.h"
 #include "model/shape_inputs.h"
 #include "model/view_inputs.h"
-#include "program/program.h"
-#include "rich_text/reader.h"
-#include "scene/orbit.h"
-#include "scene/rotating_globe.h"
+#include "demos/stepping.h"
+#include "documents/about_box.h"
+#include "documents/user_guide.h"
+#include "program/start_up.h"
 #include "tutorials/clock.h"
 #include "tutorials/navigator.h"
 
@@ -19,9 +19,30 @@ namespace selvane {
 
 namespace {
 
-void WireBars(Wiring& wiring)
+void mnMercury_Click(Simulation& sim)
 {
-    auto& change = wiring.change;
+    ClickPlanet(sim, mnMercury);
+}
+void mnVenus_Click(Simulation& sim)
+{
+    ClickPlanet(sim, mnVenus);
+}
+void mnEarth_Click(Simulation& sim)
+{
+    ClickPlanet(sim, mnEarth);
+}
+void mnMars_Click(Simulation& sim)
+{
+    ClickPlanet(sim, mnMars);
+}
+void mnJupiter_Click(Simulation& sim)
+{
+    ClickPlanet(sim, mnJupiter);
+}
+
+constexpr void FillBars(Handlers& handlers)
+{
+    auto& change = handlers.change;
     change[Index(sclPeri)] = sclPeri_Change;
     change[Index(sclApo)] = sclApo_Change;
     change[Index(sclPeriE)] = sclPeriE_Change;
@@ -39,9 +60,9 @@ void WireBars(Wiring& wiring)
     change[Index(sclRange)] = sclRange_Change;
 }
 
-void WireButtons(Wiring& wiring)
+constexpr void FillButtonsAndLabels(Handlers& handlers)
 {
-    auto& click = wiring.click;
+    auto& click = handlers.click;
     click[Index(btnApsisCalculate)] = btnApsisCalculate_Click;
     click[Index(btnECalculate)] = btnECalculate_Click;
     click[Index(btnAxisCalculate)] = btnAxisCalculate_Click;
@@ -51,12 +72,12 @@ void WireButtons(Wiring& wiring)
     click[Index(btnAdvance)] = btnAdvance_Click;
     click[Index(btnBack2)] = btnBack2_Click;
     click[Index(btnNext2)] = btnNext2_Click;
-    wiring.label[Index(lblReturnToTutorial)] = lblReturnToTutorial_Click;
+    handlers.label[Index(lblReturnToTutorial)] = lblReturnToTutorial_Click;
 }
 
-void WireMenu(Wiring& wiring)
+constexpr void FillMenu(Handlers& handlers)
 {
-    auto& menu = wiring.menu;
+    auto& menu = handlers.menu;
     menu[Index(mnViewSatellite)] = mnViewSatellite_Click;
     menu[Index(mnOrbitalEnergy)] = mnOrbitalEnergy_Click;
     menu[Index(mnES2)] = mnES2_Click;
@@ -74,54 +95,31 @@ void WireMenu(Wiring& wiring)
     menu[Index(mnAbout)] = mnAbout_Click;
 }
 
-void WireTimersAndWindows(Wiring& wiring)
+constexpr void FillTimersAndWindows(Handlers& handlers)
 {
-    wiring.tick[Index(tmrSat)] = tmrSat_Timer;
-    wiring.tick[Index(tmrES2)] = tmrES2_Timer;
-    wiring.tick[Index(tmrSunSynch)] = tmrSunSynch_Timer;
-    wiring.tick[Index(tmrTime)] = tmrTime_Timer;
-    wiring.load[Index(WindowId::Main)] = Form_Load;
-    wiring.load[Index(WindowId::About)] = frmAbout::Form_Load;
-    wiring.activate[Index(WindowId::Main)] = Form_Activate;
-    wiring.activate[Index(WindowId::UserGuide)] = frmUserGuide::Form_Activate;
-    wiring.unload = Form_Unload;
+    handlers.tick[Index(tmrSat)] = tmrSat_Timer;
+    handlers.tick[Index(tmrES2)] = tmrES2_Timer;
+    handlers.tick[Index(tmrSunSynch)] = tmrSunSynch_Timer;
+    handlers.tick[Index(tmrTime)] = tmrTime_Timer;
+    handlers.load[Index(WindowId::Main)] = Form_Load;
+    handlers.load[Index(WindowId::About)] = frmAbout::Form_Load;
+    handlers.activate[Index(WindowId::Main)] = Form_Activate;
+    handlers.activate[Index(WindowId::UserGuide)] = frmUserGuide::Form_Activate;
+    handlers.unload[Index(WindowId::Main)] = Form_Unload;
 }
 
-std::shared_ptr<const RichText> ReadPaneText(const std::string& bytes)
+constexpr Handlers MakeHandlers()
 {
-    RichTextResult result = ReadRichText(bytes);
-    if (!std::holds_alternative<RichText>(result)) return nullptr;
-    return std::make_shared<const RichText>(std::get<RichText>(std::move(result)));
-}
-
-void TieUpwardCalls(Wiring& wiring)
-{
-    wiring.RotatingPlanet = RotatingPlanet;
-    wiring.DrawOrbit = DrawOrbit;
-    wiring.PrintValues = PrintValues;
-    wiring.btnPlay_Click = btnPlay_Click;
-    wiring.PlanetPosition = PlanetPosition;
-    wiring.mnSatelliteTracking_Click = mnSatelliteTracking_Click;
-    wiring.readRichText = ReadPaneText;
-}
-
-Wiring MakeWiring()
-{
-    Wiring wiring;
-    WireBars(wiring);
-    WireButtons(wiring);
-    WireMenu(wiring);
-    WireTimersAndWindows(wiring);
-    TieUpwardCalls(wiring);
-    return wiring;
+    Handlers handlers;
+    FillBars(handlers);
+    FillButtonsAndLabels(handlers);
+    FillMenu(handlers);
+    FillTimersAndWindows(handlers);
+    return handlers;
 }
 
 } // namespace
 
-const Wiring& TheWiring()
-{
-    static const Wiring wiring = MakeWiring();
-    return wiring;
-}
+constinit const Handlers kHandlers = MakeHandlers();
 
 } // namespace selvane

@@ -1,6 +1,4 @@
-#include "demos/scenario.h"
-
-#include "app/help_pane.h"
+#include "demos/demonstration.h"
 
 namespace selvane {
 
@@ -20,11 +18,6 @@ void AssignSettings(Simulation& sim, const DemoSettings& settings)
     Assign(sim, sclPeri, settings.periapsis);
     Assign(sim, sclApo, settings.apoapsis);
     sim.state.RedrawEnabled = true;
-}
-
-void LoadDemoDocument(Simulation& sim, std::string_view document)
-{
-    Load(sim, sim.controls.txtHelp, document);
 }
 
 } // namespace selvane

@@ -1,10 +1,10 @@
-#include "app/start_up.h"
+#include "demos/default_orbit.h"
 
-#include "app/help_pane.h"
-#include "app/planets.h"
 #include "app/simulation.h"
-
-#include <cmath>
+#include "model/read_outs.h"
+#include "model/satellite_motion.h"
+#include "scene/orbit.h"
+#include "scene/rotating_globe.h"
 
 namespace selvane {
 
@@ -62,37 +62,6 @@ void ResetMotion(SimState& state)
 
 } // namespace
 
-void Form_Load(Simulation& sim)
-{
-    SimState& state = sim.state;
-    state.HelpStep1 = 20;
-    state.HelpStep2 = 31;
-    SelectPlanet(sim, mnEarth);
-    state.Pi = 4 * std::atan(1.0);
-    state.PlanetRotDeg = 0;
-    Load(sim, sim.controls.txtHelp, "Help(20).rtf");
-    Show(sim, sclViewD, true);
-    Show(sim, txtViewD, true);
-    Show(sim, lblViewD, true);
-}
-
-void Form_Activate(Simulation& sim)
-{
-    SimState& state = sim.state;
-    state.OrbitMode = Scenario::Tutorial;
-    state.CurPic = &sim.picDemo;
-    state.CurrentDemo = SceneKey::Demo0;
-    sim.wiring.mnSatelliteTracking_Click(sim);
-    state.CurPic = &sim.picSelvane;
-    ResetOrbit(sim);
-}
-
-void Form_Unload(Simulation& sim)
-{
-    CloseWindow(sim, WindowId::About);
-    CloseWindow(sim, WindowId::UserGuide);
-}
-
 void ResetOrbit(Simulation& sim)
 {
     SimState& state = sim.state;
@@ -103,20 +72,15 @@ void ResetOrbit(Simulation& sim)
     ResetMotion(state);
 
     sim.picSelvane.Cls();
-    sim.wiring.RotatingPlanet(sim);
-    sim.wiring.DrawOrbit(sim);
+    RotatingPlanet(sim);
+    DrawOrbit(sim);
     state.SatDeg = 270; // a quarter turn before the in-plane zero
 
-    sim.wiring.btnPlay_Click(sim);
+    btnPlay_Click(sim);
     Enable(sim, tmrSunSynch, false);
     Enable(sim, tmrES2, false);
     Enable(sim, tmrSat, true);
-    TellTrueAnomaly(sim);
-}
-
-void TellTrueAnomaly(Simulation& sim)
-{
-    SetToolTip(sim, lblOutput(10), LabelTable()[Index(lblOutput(10))].toolTip);
+    Row10IsTrueAnomaly(sim);
 }
 
 } // namespace selvane
