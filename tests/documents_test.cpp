@@ -3,14 +3,17 @@
 
 #include "app/control_table.h"
 #include "app/number_text.h"
+#include "claims.h"
 #include "replay/player.h"
 #include "rich_text/reader.h"
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <numbers>
+#include <set>
 #include <sstream>
 
 namespace selvane {
@@ -18,22 +21,25 @@ namespace selvane {
 using namespace rich_text;
 namespace {
 
+using claims::Evened;
+using claims::Page;
+using claims::Play;
 using replay::Player;
 
-struct Document
+const std::vector<Page>& Lessons()
 {
-    const char* name;
-    std::size_t words; // at most
-};
+    static const std::vector<Page> pages = claims::ReadPages(SELVANE_TESTS "/claims.txt");
+    return pages;
+}
 
-constexpr Document kDocuments[] = {
-    {"Help(20).rtf", 300},        {"Help(21).rtf", 300},    {"Help(22).rtf", 300},
-    {"Help(23).rtf", 300},        {"Help(31).rtf", 300},    {"Help(32).rtf", 300},
-    {"GeoOrbit.rtf", 300},        {"Molniya.rtf", 300},     {"EarthSun.rtf", 300},
-    {"SunSynch.rtf", 300},        {"Energy.rtf", 300},      {"Introduction.rtf", 300},
-    {"MainDisplay.rtf", 500},     {"OrbitShape.rtf", 300},  {"OrbitPosition.rtf", 300},
-    {"OrbitParameters.rtf", 300}, {"Terminology.rtf", 700},
-};
+// All documents, by their names in the folder, lessons or not.
+std::set<std::string> Names()
+{
+    std::set<std::string> names;
+    for (const auto& file : std::filesystem::directory_iterator(SELVANE_HELP))
+        if (file.path().extension() == ".rtf") names.insert(file.path().filename());
+    return names;
+}
 
 // The control words that the documents keep to, so that any word processor opens them.
 constexpr std::string_view kControlWords =
@@ -41,7 +47,9 @@ constexpr std::string_view kControlWords =
     "stylesheet s sbasedon snext keepn outlinelevel listtable list listtemplateid listsimple "
     "listlevel levelnfc leveljc levelstartat levelfollow leveltext levelnumbers listid "
     "listoverridetable listoverride listoverridecount ls ilvl listtext paperw paperh margl "
-    "margr margt margb pard plain par tab fi li sa sb fs cf b i ul u field fldinst fldrslt ";
+    "margr margt margb pard plain par tab fi li sa sb fs cf b i ul u field fldinst fldrslt trowd "
+    "trgaph trleft "
+    "clbrdrb brdrs brdrw cellx intbl cell row ";
 
 // Beyond ASCII the documents use these characters only; Carlito has a glyph for each, in all four
 // styles.
@@ -61,99 +69,6 @@ RichText Read(const std::string& name)
     if (RichText* text = std::get_if<RichText>(&result)) return std::move(*text);
     ADD_FAILURE() << name << " does not open";
     return {};
-}
-
-// Runs of blanks as one, the minus sign as a hyphen, none at the ends.
-std::string Evened(std::string_view text)
-{
-    std::string even;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        if (text.substr(at).starts_with("−")) {
-            even += '-';
-            at += std::string_view("−").size() - 1;
-        } else if (text[at] != ' ') {
-            even += text[at];
-        } else if (!even.empty() && even.back() != ' ') {
-            even += ' ';
-        }
-    }
-    if (even.ends_with(' ')) even.pop_back();
-    return even;
-}
-
-std::vector<std::string> Split(const std::string& text, char mark)
-{
-    std::vector<std::string> parts;
-    std::istringstream all(text);
-    for (std::string part; std::getline(all, part, mark);) parts.push_back(Evened(part));
-    return parts;
-}
-
-// Whether the text shows the value, not merely a piece of a longer word or number.
-bool ShowsWhole(std::string text, std::string value)
-{
-    std::replace(text.begin(), text.end(), ',', ' ');
-    std::replace(value.begin(), value.end(), ',', ' ');
-    return Evened(' ' + text).insert(0, " ").append(" ").find(' ' + Evened(value) + ' ') !=
-           std::string::npos;
-}
-
-// Does the actions, "N * action" for N times, and says which of them is none or cannot be done.
-void Play(Player& player, const std::string& actions)
-{
-    for (const std::string& part : Split(actions, ';')) {
-        const auto star = part.find(" * ");
-        const int times = star == std::string::npos ? 1 : std::stoi(part);
-        const auto action =
-            replay::ParseAction(star == std::string::npos ? part : part.substr(star + 3));
-        ASSERT_TRUE(action) << part;
-        for (int time = 0; time < times; ++time) {
-            const Refusal refusal = player.Do(*action);
-            ASSERT_FALSE(refusal) << part << ": " << *refusal;
-        }
-    }
-}
-
-std::vector<std::string> PictureTexts(const Player& player)
-{
-    std::vector<std::string> texts;
-    const raster::Drawing& drawing = player.Program().picDemo.drawing;
-    for (const raster::Stroke& stroke : replay::Of(drawing, raster::StrokeKind::Text))
-        texts.push_back(Evened(drawing.TextOf(stroke)));
-    return texts;
-}
-
-// A line of claims.txt.
-struct Claim
-{
-    std::string document, key, actions, quote; // the quote without its brackets
-    std::string value;                         // what stood in the brackets
-    std::optional<std::string> shown;          // what the dump shows where it is not the value
-};
-
-std::vector<Claim> Claims()
-{
-    std::vector<Claim> claims;
-    std::ifstream file(SELVANE_SCENARIOS "/../claims.txt");
-    for (std::string line; std::getline(file, line);) {
-        if (line.empty() || line[0] == '#') continue;
-        const std::vector<std::string> parts = Split(line, '|');
-        const auto open = parts.size() == 4 ? parts[3].find('[') : std::string::npos;
-        const auto close = parts.size() == 4 ? parts[3].find(']') : std::string::npos;
-        if (open > close || close == std::string::npos) {
-            ADD_FAILURE() << "no claim: " << line;
-            continue;
-        }
-        Claim claim{parts[0], parts[1], parts[2], parts[3], {}, {}};
-        claim.value = claim.quote.substr(open + 1, close - open - 1);
-        claim.quote.erase(close, 1).erase(open, 1);
-        if (const auto sign = claim.key.find('='); sign != std::string::npos) {
-            claim.shown = claim.key.substr(sign + 1);
-            claim.key.erase(sign);
-        }
-        claims.push_back(std::move(claim));
-    }
-    return claims;
 }
 
 void ExpectKnownWords(const std::string& bytes)
@@ -183,23 +98,46 @@ void ExpectGlyphs(const std::string& body)
     }
 }
 
-// A title first; a heading, then two or three numbered tasks last.
-void ExpectShape(const RichText& text)
+// A paragraph as text, blanks and minus signs made even.
+std::vector<std::string> ParagraphsOf(const std::string& document)
+{
+    return claims::Split(PlainText(Read(document).blocks), '\n');
+}
+
+// The numbered items that follow the heading.
+std::vector<std::string> ItemsUnder(const RichText& text, const std::string& heading)
+{
+    std::vector<std::string> items;
+    bool under = false;
+    for (const Paragraph* paragraph : Paragraphs(text.blocks)) {
+        if (paragraph->format.headingLevel > 0) under = PlainText(*paragraph) == heading;
+        if (!under || !paragraph->item || !std::isdigit(paragraph->item->label.front())) continue;
+        items.push_back(Evened(PlainText(*paragraph)));
+        EXPECT_EQ(paragraph->item->label, std::to_string(items.size()) + ".");
+    }
+    return items;
+}
+
+// A lesson: its title, its goal, what to do first, tasks; and an answer to each under the last
+// heading, where they are not seen with the tasks.
+void ExpectLesson(const RichText& text)
 {
     const std::vector<const Paragraph*> paragraphs = Paragraphs(text.blocks);
-    ASSERT_GT(paragraphs.size(), 4U);
-    EXPECT_EQ(paragraphs.front()->format.headingLevel, 1);
-    const auto last =
-        std::find_if(paragraphs.rbegin(), paragraphs.rend(),
-                     [](const Paragraph* one) { return one->format.headingLevel == 2; });
-    ASSERT_NE(last, paragraphs.rend());
-    EXPECT_EQ(PlainText(**last), "Predict, then look");
-    const auto tasks = last - paragraphs.rbegin();
-    EXPECT_TRUE(tasks == 2 || tasks == 3) << tasks;
-    for (auto task = paragraphs.rbegin(); task != last; ++task) {
-        ASSERT_TRUE((*task)->item) << PlainText(**task);
-        EXPECT_EQ((*task)->item->label, std::to_string(last - task) + ".");
+    std::vector<std::string> headings, words;
+    for (const Paragraph* one : paragraphs) {
+        words.push_back(Evened(PlainText(*one)));
+        if (one->format.headingLevel == 2) headings.push_back(words.back());
     }
+    ASSERT_GT(headings.size(), 2U);
+    EXPECT_EQ(paragraphs.front()->format.headingLevel, 1);
+    EXPECT_TRUE(words[1].starts_with("After this page you can ") ||
+                words[2].starts_with("After this page you can "));
+    EXPECT_EQ(headings.front(), "Predict, then look");
+    EXPECT_EQ(headings.back(), "Answers");
+    const auto tasks = std::find(words.begin(), words.end(), "Predict, then look");
+    EXPECT_TRUE((tasks + 1)->starts_with("First: ")) << *(tasks + 1);
+    EXPECT_GE(ItemsUnder(text, "Predict, then look").size(), 3U);
+    EXPECT_EQ(ItemsUnder(text, "Predict, then look").size(), ItemsUnder(text, "Answers").size());
 }
 
 // Every name that stands on the screen: captions, menu items, and what the lessons' scenes write.
@@ -209,12 +147,15 @@ std::set<std::string> NamesOnTheScreen()
     for (const LabelRow& row : LabelTable()) names.emplace(row.caption);
     for (const MenuRow& row : MenuTable()) names.emplace(row.caption);
     for (const ButtonRow& row : ButtonTable()) names.emplace(row.caption);
+    names.insert("Day"); // where others read "True Anomaly"
     Player player;
-    for (const char* step : {"", "click btnNext2", "click btnNext2", "click btnNext2",
-                             "menu mnTimeStandards", "click btnNext2; tick tmrTime"}) {
+    for (const char* step :
+         {"", "click btnNext2", "click btnNext2", "click btnNext2", "menu mnTimeStandards",
+          "click btnNext2; tick tmrTime", "menu mnMars; tick tmrSat"}) {
         Play(player, step);
-        for (const std::string& text : PictureTexts(player)) names.insert(text);
-        names.insert(player.Take().at("lblRange.caption"));
+        for (const std::string& text : claims::Shown(player, "picDemo.text")) names.insert(text);
+        for (const auto& [key, value] : player.Take()) // "Period" of "Period = 125 Min"
+            if (key.ends_with(".caption")) names.insert(value.substr(0, value.find(" = ")));
     }
     return names;
 }
@@ -234,19 +175,29 @@ std::vector<std::string> BoldReadOuts(const RichText& text)
 
 TEST(Documents, OpenAndAreWrittenForAnyWordProcessorAndTheFont)
 {
-    std::set<std::string> names;
-    for (const Document& document : kDocuments) names.emplace(document.name);
-    for (const Document& document : kDocuments) {
-        SCOPED_TRACE(document.name);
-        const RichText text = Read(document.name);
-        const std::string body = PlainText(text.blocks);
-        ExpectKnownWords(Bytes(std::string(SELVANE_HELP) + '/' + document.name));
-        ExpectGlyphs(body);
-        ExpectShape(text);
-        std::istringstream words(body);
-        EXPECT_LE(std::distance(std::istream_iterator<std::string>(words), {}),
-                  static_cast<std::ptrdiff_t>(document.words));
+    const std::set<std::string> names = Names();
+    for (const std::string& name : names) {
+        SCOPED_TRACE(name);
+        const RichText text = Read(name);
+        ExpectKnownWords(Bytes(std::string(SELVANE_HELP) + '/' + name));
+        ExpectGlyphs(PlainText(text.blocks));
         for (const std::string& link : text.links) EXPECT_TRUE(names.contains(link)) << link;
+    }
+}
+
+TEST(Documents, LeadFromEachLessonToAnyPage)
+{
+    const std::set<std::string> names = Names();
+    for (const Page& lesson : Lessons()) {
+        std::set<std::string> reached{lesson.document};
+        std::vector<std::string> open{lesson.document};
+        while (!open.empty()) {
+            const RichText text = Read(open.back());
+            open.pop_back();
+            for (const std::string& link : text.links)
+                if (reached.insert(link).second) open.push_back(link);
+        }
+        EXPECT_EQ(reached, names) << lesson.document;
     }
 }
 
@@ -254,70 +205,51 @@ TEST(Documents, QuoteOnlyNamesThatStandOnTheScreen)
 {
     const std::set<std::string> names = NamesOnTheScreen();
     const std::string_view open = "“", close = "”";
-    for (const Document& document : kDocuments) {
-        const std::string body = PlainText(Read(document.name).blocks);
+    for (const Page& lesson : Lessons()) {
+        const std::string body = PlainText(Read(lesson.document).blocks);
         for (auto at = body.find(open); at != std::string::npos; at = body.find(open, at + 1)) {
             const auto start = at + open.size();
             const std::string name = body.substr(start, body.find(close, start) - start);
-            EXPECT_TRUE(names.contains(name)) << document.name << ": " << name;
+            EXPECT_TRUE(names.contains(name)) << lesson.document << ": " << name;
         }
     }
 }
 
-TEST(Documents, ClaimEveryReadOutAndAnswerTheyPrint)
+TEST(Documents, ClaimOnlyWhatTheySayAndEveryReadOutTheyPrint)
 {
-    const std::vector<Claim> claims = Claims();
-    EXPECT_GE(claims.size(), 60U);
-    for (const Document& document : kDocuments) {
-        SCOPED_TRACE(document.name);
-        const RichText text = Read(document.name);
-        for (const std::string& readOut : BoldReadOuts(text))
-            EXPECT_TRUE(std::any_of(claims.begin(), claims.end(), [&](const Claim& claim) {
-                return claim.document == document.name && claim.value == readOut;
+    for (const Page& lesson : Lessons()) {
+        SCOPED_TRACE(lesson.document);
+        const std::vector<std::string> paragraphs = ParagraphsOf(lesson.document);
+        const auto says = [&](const std::string& words) {
+            return std::any_of(paragraphs.begin(), paragraphs.end(), [&](const std::string& one) {
+                return one.find(words) != std::string::npos;
+            });
+        };
+        EXPECT_TRUE(says(lesson.firstWords)) << lesson.firstWords;
+        const std::vector<claims::Claim> claims = lesson.Claims();
+        for (const claims::Claim& claim : claims) EXPECT_TRUE(says(claim.quote)) << claim.quote;
+        for (const std::string& readOut : BoldReadOuts(Read(lesson.document)))
+            EXPECT_TRUE(std::any_of(claims.begin(), claims.end(), [&](const claims::Claim& claim) {
+                return claim.value == readOut;
             })) << readOut;
-        const std::string body = Evened(PlainText(text.blocks));
-        const std::string tasks = body.substr(body.rfind("Predict, then look"));
-        EXPECT_GE(std::count_if(claims.begin(), claims.end(),
-                                [&](const Claim& claim) {
-                                    return claim.document == document.name &&
-                                           tasks.find(claim.quote) != std::string::npos;
-                                }),
-                  2);
     }
 }
 
-TEST(Documents, SayWhatTheProgramShows)
+TEST(Documents, AskBeforeTheyAnswer)
 {
-    struct Screen
-    {
-        replay::Dump dump;
-        std::vector<std::string> texts;
-    };
-    std::map<std::string, Screen> screens; // by the actions that lead there
-    for (const Claim& claim : Claims()) {
-        SCOPED_TRACE(claim.document + ": " + claim.quote);
-        const std::vector<std::string> paragraphs =
-            Split(PlainText(Read(claim.document).blocks), '\n');
-        EXPECT_TRUE(std::any_of(paragraphs.begin(), paragraphs.end(), [&](const std::string& one) {
-            return one.find(claim.quote) != std::string::npos;
-        })) << "does not say so";
-        if (!screens.contains(claim.actions)) {
-            Player player;
-            Play(player, claim.actions);
-            screens[claim.actions] = {player.Take(), PictureTexts(player)};
-        }
-        const Screen& screen = screens[claim.actions];
-        std::vector<std::string> shown = screen.texts;
-        if (claim.key != "picDemo.text") {
-            ASSERT_TRUE(screen.dump.contains(claim.key)) << claim.key;
-            shown = {Evened(screen.dump.at(claim.key))};
-        }
-        EXPECT_TRUE(std::any_of(shown.begin(), shown.end(),
-                                [&](const std::string& text) {
-                                    return claim.shown ? text == *claim.shown
-                                                       : ShowsWhole(text, claim.value);
-                                }))
-            << claim.key << " shows " << (shown.empty() ? "nothing" : shown.front());
+    for (const Page& lesson : Lessons()) {
+        if (lesson.firstWords.empty()) continue; // a page without tasks
+        SCOPED_TRACE(lesson.document);
+        const RichText text = Read(lesson.document);
+        ExpectLesson(text);
+        const std::vector<std::string> tasks = ItemsUnder(text, "Predict, then look");
+        const auto done = std::count_if(
+            lesson.blocks.begin(), lesson.blocks.end(),
+            [](const claims::Block& block) { return block.kind == claims::Block::Kind::task; });
+        EXPECT_EQ(static_cast<std::size_t>(done), tasks.size());
+        for (const std::string& readOut : BoldReadOuts(text))
+            for (const std::string& task : tasks)
+                EXPECT_EQ(task.find(readOut), std::string::npos) << readOut;
     }
 }
 
