@@ -228,7 +228,7 @@ std::vector<std::string> Shown(const replay::Player& player, const std::string& 
                                .controls.labels[static_cast<std::size_t>(row - rows.begin())]
                                .caption)};
     }
-    const replay::Dump dump = player.Take();
+    const replay::Dump dump = replay::RecordsOf(player.Program()); // without the pictures' digests
     const auto entry = dump.find(key);
     if (entry == dump.end()) return {};
     return {Evened(entry->second)};
@@ -292,16 +292,26 @@ void Learner::Work(const Block& block)
     }
 }
 
-void Learner::Work(const Page& page)
+void Learner::DoTasks(const Page& page)
 {
     SCOPED_TRACE(page.document);
     Take(page.first);
     for (const Block& block : page.blocks) {
-        if (block.kind == Block::Kind::fresh) continue;
-        pause_();
-        if (block.kind == Block::Kind::also) Take(page.first);
-        Work(block);
         if (testing::Test::HasFatalFailure()) return;
+        if (block.kind != Block::Kind::task) continue;
+        pause_();
+        Work(block);
+    }
+}
+
+void Learner::CheckFacts(const Page& page)
+{
+    SCOPED_TRACE(page.document);
+    for (const Block& block : page.blocks) {
+        if (testing::Test::HasFatalFailure()) return;
+        if (block.kind != Block::Kind::also) continue;
+        Take(page.first);
+        Work(block);
     }
 }
 

@@ -108,9 +108,9 @@ public:
         : player_(player), pause_(std::move(pause))
     {}
 
-    // Does all that the page asks for, but for the facts of a fresh program; what does not hold is
-    // a failure of the test.
-    void Work(const Page& page);
+    // What does not hold is a failure of the test.
+    void DoTasks(const Page& page);
+    void CheckFacts(const Page& page); // those beside the tasks, each from the first line
     void Work(const Block& block);
     void Take(const Deeds& deeds);
 
