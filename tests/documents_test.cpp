@@ -32,12 +32,22 @@ const std::vector<Page>& Lessons()
     return pages;
 }
 
-// All documents, by their names in the folder, lessons or not.
+// All documents that links can reach, by their names in the folder, lessons or not.
 std::set<std::string> Names()
 {
     std::set<std::string> names;
     for (const auto& file : std::filesystem::directory_iterator(SELVANE_HELP))
         if (file.path().extension() == ".rtf") names.insert(file.path().filename());
+    return names;
+}
+
+// These and the documents to print, in folders of their own.
+std::set<std::string> NamesInAllFolders()
+{
+    std::set<std::string> names;
+    for (const auto& file : std::filesystem::recursive_directory_iterator(SELVANE_HELP))
+        if (file.path().extension() == ".rtf")
+            names.insert(std::filesystem::relative(file.path(), SELVANE_HELP).generic_string());
     return names;
 }
 
@@ -205,12 +215,12 @@ TEST(Documents, QuoteOnlyNamesThatStandOnTheScreen)
 {
     const std::set<std::string> names = NamesOnTheScreen();
     const std::string_view open = "“", close = "”";
-    for (const Page& lesson : Lessons()) {
-        const std::string body = PlainText(Read(lesson.document).blocks);
+    for (const std::string& document : NamesInAllFolders()) {
+        const std::string body = PlainText(Read(document).blocks);
         for (auto at = body.find(open); at != std::string::npos; at = body.find(open, at + 1)) {
             const auto start = at + open.size();
             const std::string name = body.substr(start, body.find(close, start) - start);
-            EXPECT_TRUE(names.contains(name)) << lesson.document << ": " << name;
+            EXPECT_TRUE(names.contains(name)) << document << ": " << name;
         }
     }
 }
