@@ -33,36 +33,36 @@ std::optional<double> NumberIn(const std::string& text)
 }
 
 // "KEY=VALUE" behind the word, which is cut off the text with what follows it.
-std::optional<Sight> TakeSight(std::string& text, const std::string& word)
+std::optional<Condition> TakeCondition(std::string& text, const std::string& word)
 {
     const auto at = text.find(' ' + word + ' ');
     if (at == std::string::npos) return std::nullopt;
-    const std::string sight = text.substr(at + word.size() + 2);
+    const std::string condition = text.substr(at + word.size() + 2);
     text.erase(at);
-    const auto sign = sight.find('=');
-    if (sign == std::string::npos) return Sight{sight, {}};
-    return Sight{sight.substr(0, sign), sight.substr(sign + 1)};
+    const auto sign = condition.find('=');
+    if (sign == std::string::npos) return Condition{condition, {}};
+    return Condition{condition.substr(0, sign), condition.substr(sign + 1)};
 }
 
-Deeds ReadDeeds(const std::string& text)
+Commands ReadCommands(const std::string& text)
 {
-    Deeds deeds;
+    Commands commands;
     for (const std::string& part : Split(text, ';')) {
         if (part.empty()) continue;
         std::string action = part;
-        std::optional<Sight> until = TakeSight(action, "until");
-        std::optional<Sight> unless = TakeSight(action, "unless");
+        std::optional<Condition> until = TakeCondition(action, "until");
+        std::optional<Condition> unless = TakeCondition(action, "unless");
         int times = 1;
         if (const auto star = action.find(" * "); star != std::string::npos) {
             times = std::atoi(action.c_str());
             action.erase(0, star + 3);
         }
         if (std::optional<replay::Action> parsed = replay::ParseAction(action))
-            deeds.push_back({part, *parsed, times, std::move(until), std::move(unless)});
+            commands.push_back({part, *parsed, times, std::move(until), std::move(unless)});
         else
             ADD_FAILURE() << "no action: " << part;
     }
-    return deeds;
+    return commands;
 }
 
 // "near N within M" or "changes by N within M", cut off the key.
@@ -112,18 +112,19 @@ std::optional<Block> ReadBlock(const std::string& line)
 {
     if (const auto rest = After("task", line)) {
         const std::string number = rest->substr(0, rest->find(' '));
-        return Block{Block::Kind::task, "task " + number, {ReadDeeds(rest->substr(number.size()))}};
+        return Block{
+            Block::Kind::task, "task " + number, {ReadCommands(rest->substr(number.size()))}};
     }
     if (const auto rest = After("also", line))
-        return Block{Block::Kind::also, line, {ReadDeeds(*rest)}};
+        return Block{Block::Kind::also, line, {ReadCommands(*rest)}};
     if (const auto rest = After("fresh", line))
-        return Block{Block::Kind::fresh, line, {ReadDeeds(*rest)}};
+        return Block{Block::Kind::fresh, line, {ReadCommands(*rest)}};
     return std::nullopt;
 }
 
 std::optional<Step> ReadStep(const std::string& line)
 {
-    if (const auto rest = After("do", line)) return ReadDeeds(*rest);
+    if (const auto rest = After("do", line)) return ReadCommands(*rest);
     if (const auto key = After("note", line)) return Note{*key};
     if (std::optional<Claim> claim = ReadClaim(line)) return *std::move(claim);
     return std::nullopt;
@@ -140,7 +141,7 @@ bool ReadLine(const std::string& line, std::vector<Page>& pages)
     if (const auto rest = After("first", line)) {
         const std::vector<std::string> parts = Split(*rest, '|');
         if (parts.size() != 2) return false;
-        page.first = ReadDeeds(parts[0]);
+        page.first = ReadCommands(parts[0]);
         page.firstWords = parts[1];
         return true;
     }
@@ -206,7 +207,7 @@ std::vector<Page> ReadPages(const std::string& path)
 
 void Play(replay::Player& player, const std::string& actions)
 {
-    Learner(player).Take(ReadDeeds(actions));
+    Learner(player).Take(ReadCommands(actions));
 }
 
 std::vector<std::string> Shown(const replay::Player& player, const std::string& key)
@@ -234,22 +235,22 @@ std::vector<std::string> Shown(const replay::Player& player, const std::string& 
     return {Evened(entry->second)};
 }
 
-bool Learner::Sees(const Sight& sight) const
+bool Learner::IsMet(const Condition& condition) const
 {
-    const std::vector<std::string> shown = Shown(player_, sight.key);
-    return std::find(shown.begin(), shown.end(), sight.value) != shown.end();
+    const std::vector<std::string> shown = Shown(player_, condition.key);
+    return std::find(shown.begin(), shown.end(), condition.value) != shown.end();
 }
 
-void Learner::Take(const Deeds& deeds)
+void Learner::Take(const Commands& commands)
 {
-    for (const Deed& deed : deeds) {
-        if (deed.unless && Sees(*deed.unless)) continue;
-        const int most = deed.until ? kMostRepetitions : deed.times;
-        for (int time = 0; time < most && !(deed.until && Sees(*deed.until)); ++time) {
-            const Refusal refusal = player_.Do(deed.action);
-            ASSERT_FALSE(refusal) << deed.text << ": " << *refusal;
+    for (const Command& command : commands) {
+        if (command.unless && IsMet(*command.unless)) continue;
+        const int most = command.until ? kMostRepetitions : command.times;
+        for (int time = 0; time < most && !(command.until && IsMet(*command.until)); ++time) {
+            const Refusal refusal = player_.Do(command.action);
+            ASSERT_FALSE(refusal) << command.text << ": " << *refusal;
         }
-        ASSERT_TRUE(!deed.until || Sees(*deed.until)) << deed.text << ": never comes";
+        ASSERT_TRUE(!command.until || IsMet(*command.until)) << command.text << ": never comes";
     }
 }
 

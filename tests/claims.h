@@ -37,20 +37,20 @@ std::string Evened(std::string_view text);
 std::vector<std::string> Split(const std::string& text, char mark);
 
 // A key of a dump and what it is to show.
-struct Sight
+struct Condition
 {
     std::string key, value;
 };
 
-struct Deed
+struct Command
 {
     std::string text; // as it stands in the file
     replay::Action action;
     int times = 1;
-    std::optional<Sight> until, unless;
+    std::optional<Condition> until, unless;
 };
 
-using Deeds = std::vector<Deed>;
+using Commands = std::vector<Command>;
 
 struct Note
 {
@@ -71,7 +71,7 @@ struct Claim
     std::optional<Measure> measure;   // where the number counts, not the text
 };
 
-using Step = std::variant<Deeds, Note, Claim>;
+using Step = std::variant<Commands, Note, Claim>;
 
 struct Block
 {
@@ -83,7 +83,7 @@ struct Block
 struct Page
 {
     std::string document;
-    Deeds first;
+    Commands first;
     std::string firstWords;
     std::vector<Block> blocks;
 
@@ -112,12 +112,12 @@ public:
     void DoTasks(const Page& page);
     void CheckFacts(const Page& page); // those beside the tasks, each from the first line
     void Work(const Block& block);
-    void Take(const Deeds& deeds);
+    void Take(const Commands& commands);
 
 private:
     void Take(const Note& note);
     void Take(const Claim& claim);
-    bool Sees(const Sight& sight) const;
+    bool IsMet(const Condition& condition) const;
     bool Holds(const Claim& claim, const std::string& text) const;
 
     replay::Player& player_;

@@ -7,15 +7,14 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <random>
 
 namespace selvane::claims {
 namespace {
 
-constexpr const char* kFiles[] = {"claims.txt"};
-constexpr int kShares = 6; // of the orders, so that they run side by side
+constexpr const char* kFiles[] = {"claims.txt"}; // beside this test
+constexpr int kShares = 6;                       // of the orders, so that they run side by side
 constexpr int kOrders = 300;
 constexpr int kActionsBefore = 50; // of a user who does anything, before each page
 constexpr int kLongestPause = 7;   // ticks of a timer while the learner reads
@@ -35,7 +34,7 @@ void Do(replay::Player& player, const std::string& line)
 }
 
 // The documents are all there, and the main window is the one in front, as for anybody who reads.
-void SitDown(replay::Player& player, const std::vector<Page>& pages)
+void BringToFront(replay::Player& player, const std::vector<Page>& pages)
 {
     for (const Page& page : pages) Do(player, "docs present " + page.document);
     if (Shown(player, "window.active").front() != "main") Do(player, "activate");
@@ -93,7 +92,7 @@ TEST_P(LessonsInAnyOrder, HoldAfterAnyUser)
         std::shuffle(shuffled.begin(), shuffled.end(), random);
         for (const Page* page : shuffled) {
             for (int each = 0; each < kActionsBefore; ++each) Do(player, anybody.Next());
-            SitDown(player, pages);
+            BringToFront(player, pages);
             learner.DoTasks(*page);
             if (HasFailure()) return; // the first one says it
         }
