@@ -34,4 +34,5 @@ packages_to_run=(build-essential cmake ninja-build qt6-base-dev qt6-wayland
 # What its tests and its package need besides.
 packages_to_check=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format
                    desktop-file-utils appstream lintian man-db dpkg-dev file
-                   pkg-config libatspi2.0-dev at-spi2-core dbus xvfb locales)
+                   pkg-config libatspi2.0-dev at-spi2-core dbus xvfb locales
+                   libreoffice-writer-nogui)

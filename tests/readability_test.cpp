@@ -124,7 +124,7 @@ void Add(Reading& reading, const std::string& paragraph)
 struct Page
 {
     Reading reading;
-    int tasks = 0; // numbered items under a heading that begins with "Predict"
+    int tasks = 0; // numbered items under a heading "Predict ...", or headings "Task ..."
     std::set<std::string> links;
 };
 
@@ -136,6 +136,7 @@ Page Measured(const RichText& text)
         const std::string words = PlainText(*paragraph);
         if (paragraph->format.headingLevel > 0) {
             inTasks = words.starts_with("Predict");
+            if (words.starts_with("Task ")) ++page.tasks;
             continue;
         }
         if (inTasks && paragraph->item && paragraph->item->label.ends_with('.')) ++page.tasks;
