@@ -17,7 +17,7 @@ bool IsUtf8Boundary(std::string_view text, std::size_t at)
 }
 
 // What a shell relies on: indices within their tables, whole characters in each run.
-void CheckParagraph(const RichText& document, const Paragraph& paragraph)
+void CheckParagraph(const Document& document, const Paragraph& paragraph)
 {
     for (const Run& run : paragraph.runs) {
         Require(run.link < static_cast<std::int32_t>(document.links.size()));
@@ -35,8 +35,8 @@ void CheckParagraph(const RichText& document, const Paragraph& paragraph)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(data), size);
-    const RichTextResult result = ReadRichText(bytes);
-    if (const auto* document = std::get_if<RichText>(&result))
+    const ReadResult result = Read(bytes);
+    if (const auto* document = std::get_if<Document>(&result))
         for (const Paragraph* paragraph : Paragraphs(document->blocks))
             CheckParagraph(*document, *paragraph);
     return 0;

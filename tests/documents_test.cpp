@@ -4,8 +4,8 @@
 #include "app/control_table.h"
 #include "app/number_text.h"
 #include "claims.h"
+#include "help_documents.h"
 #include "replay/player.h"
-#include "rich_text/reader.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,14 +17,16 @@
 #include <sstream>
 
 namespace selvane {
-
-using namespace rich_text;
 namespace {
 
 using claims::Evened;
 using claims::Page;
 using claims::Play;
 using replay::Player;
+using rich_text::Paragraph;
+using rich_text::Paragraphs;
+using rich_text::PlainText;
+using rich_text::Run;
 
 const std::vector<Page>& Lessons()
 {
@@ -65,22 +67,6 @@ constexpr std::string_view kControlWords =
 // styles.
 constexpr std::string_view kOtherCharacters = "’“”–×÷°²³μπ√−";
 
-std::string Bytes(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream all;
-    all << file.rdbuf();
-    return all.str();
-}
-
-RichText Read(const std::string& name)
-{
-    RichTextResult result = ReadRichTextFile(std::string(SELVANE_HELP) + '/' + name);
-    if (RichText* text = std::get_if<RichText>(&result)) return std::move(*text);
-    ADD_FAILURE() << name << " does not open";
-    return {};
-}
-
 void ExpectKnownWords(const std::string& bytes)
 {
     for (std::size_t at = bytes.find('\\'); at != std::string::npos;
@@ -111,11 +97,11 @@ void ExpectGlyphs(const std::string& body)
 // A paragraph as text, blanks and minus signs made even.
 std::vector<std::string> ParagraphsOf(const std::string& document)
 {
-    return claims::Split(PlainText(Read(document).blocks), '\n');
+    return claims::Split(PlainText(ReadDocument(document).blocks), '\n');
 }
 
 // The numbered items that follow the heading.
-std::vector<std::string> ItemsUnder(const RichText& text, const std::string& heading)
+std::vector<std::string> ItemsUnder(const rich_text::Document& text, const std::string& heading)
 {
     std::vector<std::string> items;
     bool under = false;
@@ -130,7 +116,7 @@ std::vector<std::string> ItemsUnder(const RichText& text, const std::string& hea
 
 // A lesson: its title and goal; tasks, and before them what to do first; and an answer to each
 // under the last heading, where they are not seen with the tasks.
-void ExpectLesson(const RichText& text)
+void ExpectLesson(const rich_text::Document& text)
 {
     const std::vector<const Paragraph*> paragraphs = Paragraphs(text.blocks);
     std::vector<std::string> headings, words;
@@ -171,7 +157,7 @@ std::set<std::string> NamesOnTheScreen()
 }
 
 // A read-out that a document quotes stands in bold.
-std::vector<std::string> BoldReadOuts(const RichText& text)
+std::vector<std::string> BoldReadOuts(const rich_text::Document& text)
 {
     std::vector<std::string> found;
     for (const Paragraph* paragraph : Paragraphs(text.blocks))
@@ -188,8 +174,8 @@ TEST(Documents, OpenAndAreWrittenForAnyWordProcessorAndTheFont)
     const std::set<std::string> names = Names();
     for (const std::string& name : names) {
         SCOPED_TRACE(name);
-        const RichText text = Read(name);
-        ExpectKnownWords(Bytes(std::string(SELVANE_HELP) + '/' + name));
+        const rich_text::Document text = ReadDocument(name);
+        ExpectKnownWords(BytesOfDocument(name));
         ExpectGlyphs(PlainText(text.blocks));
         for (const std::string& link : text.links) EXPECT_TRUE(names.contains(link)) << link;
     }
@@ -202,7 +188,7 @@ TEST(Documents, LeadFromEachLessonToAnyPage)
         std::set<std::string> reached{lesson.document};
         std::vector<std::string> open{lesson.document};
         while (!open.empty()) {
-            const RichText text = Read(open.back());
+            const rich_text::Document text = ReadDocument(open.back());
             open.pop_back();
             for (const std::string& link : text.links)
                 if (reached.insert(link).second) open.push_back(link);
@@ -216,7 +202,7 @@ TEST(Documents, QuoteOnlyNamesThatStandOnTheScreen)
     const std::set<std::string> names = NamesOnTheScreen();
     const std::string_view open = "“", close = "”";
     for (const std::string& document : NamesInAllFolders()) {
-        const std::string body = PlainText(Read(document).blocks);
+        const std::string body = PlainText(ReadDocument(document).blocks);
         for (auto at = body.find(open); at != std::string::npos; at = body.find(open, at + 1)) {
             const auto start = at + open.size();
             const std::string name = body.substr(start, body.find(close, start) - start);
@@ -238,7 +224,7 @@ TEST(Documents, ClaimOnlyWhatTheySayAndEveryReadOutTheyPrint)
         EXPECT_TRUE(says(lesson.firstWords)) << lesson.firstWords;
         const std::vector<claims::Claim> claims = lesson.Claims();
         for (const claims::Claim& claim : claims) EXPECT_TRUE(says(claim.quote)) << claim.quote;
-        for (const std::string& readOut : BoldReadOuts(Read(lesson.document)))
+        for (const std::string& readOut : BoldReadOuts(ReadDocument(lesson.document)))
             EXPECT_TRUE(std::any_of(claims.begin(), claims.end(), [&](const claims::Claim& claim) {
                 return claim.value == readOut;
             })) << readOut;
@@ -250,7 +236,7 @@ TEST(Documents, AskBeforeTheyAnswer)
     for (const Page& lesson : Lessons()) {
         if (lesson.firstWords.empty()) continue; // a page without tasks
         SCOPED_TRACE(lesson.document);
-        const RichText text = Read(lesson.document);
+        const rich_text::Document text = ReadDocument(lesson.document);
         ExpectLesson(text);
         const std::vector<std::string> tasks = ItemsUnder(text, "Predict, then look");
         const auto done = std::count_if(
@@ -295,7 +281,7 @@ Misses FlyALap(const std::string& actions)
 
 TEST(Documents, TellHowFarTheSimplifiedReadOutsMiss)
 {
-    const std::string body = PlainText(Read("OrbitParameters.rtf").blocks);
+    const std::string body = PlainText(ReadDocument("OrbitParameters.rtf").blocks);
     const auto says = [&](const std::string& words) {
         EXPECT_NE(body.find(words), std::string::npos) << words;
     };

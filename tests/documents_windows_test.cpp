@@ -103,14 +103,16 @@ TEST(DocumentLinks, LeadToADocumentOfTheFolderInTheirOwnPaneOrToTheWeb)
     EXPECT_EQ(desk.platform.Calls(), 0U);
 
     for (const char* none :
-         {"../Energy.rtf", "%2e%2e%2fEnergy.rtf", "Energy.txt", "Energy.rtf/", ".rtf", "C:Energy.rtf",
-          "..\\Energy.rtf", "#Energy", "file:///home/Energy.rtf", "mailto:a@example.org",
-          "javascript:1", "https:", "https://", "https://:80/a", "http://a b.example.org", "%", "%4"})
+         {"../Energy.rtf", "%2e%2e%2fEnergy.rtf", "Energy.txt", "Energy.rtf/", ".rtf",
+          "C:Energy.rtf", "..\\Energy.rtf", "#Energy", "file:///home/Energy.rtf",
+          "mailto:a@example.org", "javascript:1", "https:", "https://", "https://:80/a",
+          "http://a b.example.org", "%", "%4"})
         follow(WindowId::Main, none);
     EXPECT_EQ(main, "Help(31).rtf");
     EXPECT_EQ(desk.platform.Calls(), 0U);
 
-    for (const char* web : {"https://a.example.org/b?c=1", "HTTP://a.example.org", "http://u@a.org:8"}) {
+    for (const char* web :
+         {"https://a.example.org/b?c=1", "HTTP://a.example.org", "http://u@a.org:8"}) {
         follow(WindowId::Main, web);
         EXPECT_EQ(desk.platform.LastCall(), std::string("open ") + web);
     }

@@ -5,7 +5,7 @@
 #include "qt/help_pane_widget.h"
 #include "qt/user_guide_window.h"
 #include "replay/stage.h"
-#include "rich_text/rich_text.h"
+#include "rich_text/document.h"
 
 #include <QScrollBar>
 #include <QSignalSpy>

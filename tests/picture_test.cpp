@@ -1,5 +1,5 @@
-// Pictures pixel by pixel, at every scale of a screen, and that a painter that goes from one drawing
-// to the next shows the same as one that begins with it.
+// Pictures pixel by pixel, at every scale of a screen, and that a painter that goes from one
+// drawing to the next shows the same as one that begins with it.
 #include "raster/painter.h"
 #include "replay/stage.h"
 
@@ -337,7 +337,8 @@ TEST_P(PaintedPicture, GoesFromDrawingToDrawingAsIfEachWerePaintedAnew)
     for (int turn = 0; turn < 60; ++turn) {
         // A stretch in the middle is another one, or something is added at the end.
         const auto from = random() % (frame.size() + 1);
-        const auto count = turn % 3 == 0 ? frame.size() - from : random() % (frame.size() - from + 1);
+        const auto count =
+            turn % 3 == 0 ? frame.size() - from : random() % (frame.size() - from + 1);
         const auto place = frame.begin() + static_cast<std::ptrdiff_t>(from);
         frame.erase(place, place + static_cast<std::ptrdiff_t>(count));
         for (auto added = random() % 30; added > 0; --added)

@@ -2,7 +2,7 @@
 // readability formulas for Navy enlisted personnel, 1975): the class, counted in American school
 // years, whose pupils can read the text. Prints a table of the documents.
 
-#include "rich_text/reader.h"
+#include "help_documents.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -16,6 +16,10 @@
 
 namespace selvane {
 namespace {
+
+using rich_text::Paragraph;
+using rich_text::Paragraphs;
+using rich_text::PlainText;
 
 // Lower-case letters of a word; apostrophes, quotes and digits dropped.
 std::string Letters(std::string_view word)
@@ -128,7 +132,7 @@ struct Page
     std::set<std::string> links;
 };
 
-Page Measured(const RichText& text)
+Page Measured(const rich_text::Document& text)
 {
     Page page;
     bool inTasks = false;
@@ -153,11 +157,8 @@ std::map<std::string, Page> Pages()
     const std::filesystem::path folder = SELVANE_HELP;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
         if (entry.path().extension() != ".rtf") continue;
-        const RichTextResult result = ReadRichTextFile(entry.path());
-        if (const auto* text = std::get_if<RichText>(&result))
-            pages[entry.path().lexically_relative(folder).generic_string()] = Measured(*text);
-        else
-            ADD_FAILURE() << entry.path() << " does not open";
+        const std::string name = entry.path().lexically_relative(folder).generic_string();
+        pages[name] = Measured(ReadDocument(name));
     }
     return pages;
 }

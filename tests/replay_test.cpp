@@ -261,7 +261,8 @@ TEST(Replay, StrokesAsText)
                                      "text 5 6 1,2,3  A b"};
     ASSERT_EQ(picture.drawing.Strokes().size(), std::size(nine));
     for (std::size_t at = 0; at < std::size(nine); ++at)
-        EXPECT_EQ(LineOf(picture.drawing, picture.drawing.Strokes()[at], StrokeNumbers::NineDigits), nine[at]);
+        EXPECT_EQ(LineOf(picture.drawing, picture.drawing.Strokes()[at], StrokeNumbers::NineDigits),
+                  nine[at]);
     // The sum of these lines as another program's zlib gives it.
     EXPECT_EQ(LineOf(picture.drawing, picture.drawing.Strokes()[0], StrokeNumbers::ThreeDecimals),
               "pset 0.100 -0.000 1,2,3");

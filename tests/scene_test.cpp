@@ -209,7 +209,8 @@ TEST(MainPicture, TheViewDecidesWhichPoleStandsBehindTheDisc)
         Choose(stage.sim, mnES2);
         Type(stage.sim, txtView, view);
         Tick(stage.sim, tmrES2);
-        EXPECT_EQ(MarkersRoundTheDisc(stage.sim.picSelvane.drawing), order) << view << ", Earth-Sun";
+        EXPECT_EQ(MarkersRoundTheDisc(stage.sim.picSelvane.drawing), order)
+            << view << ", Earth-Sun";
     }
 }
 
@@ -247,7 +248,8 @@ TEST(MainPicture, TheDayHalfThroughTheYear)
             EXPECT_NEAR(drawn[at].start, Radian(sectors[at].first), 1e-9);
             EXPECT_NEAR(drawn[at].end, Radian(sectors[at].second), 1e-9);
         }
-        EXPECT_EQ(replay::Count(stage.sim.picSelvane.drawing, StrokeKind::Arc), helio == 270 ? 1U : 0U);
+        EXPECT_EQ(replay::Count(stage.sim.picSelvane.drawing, StrokeKind::Arc),
+                  helio == 270 ? 1U : 0U);
     }
 }
 

@@ -157,7 +157,8 @@ TEST(Tutorials, NeverDisturbTheFlight)
         }
         // The polar axes leave their radius behind for the first disc after them, no further.
         for (Stage* stage : {&alone, &taught}) Tick(stage->sim, timer);
-        EXPECT_EQ(replay::Digest(alone.sim.picSelvane.drawing), replay::Digest(taught.sim.picSelvane.drawing));
+        EXPECT_EQ(replay::Digest(alone.sim.picSelvane.drawing),
+                  replay::Digest(taught.sim.picSelvane.drawing));
     }
 }
 

@@ -4,8 +4,8 @@
 
 #include "app/control_table.h"
 #include "claims.h"
+#include "help_documents.h"
 #include "replay/monkey.h"
-#include "rich_text/reader.h"
 #include "sum.h"
 
 #include <algorithm>
@@ -23,6 +23,12 @@ namespace {
 
 using claims::Evened;
 using replay::Player;
+using rich_text::Block;
+using rich_text::Cell;
+using rich_text::Paragraph;
+using rich_text::Row;
+using rich_text::Run;
+using rich_text::Table;
 
 constexpr const char* kClaims = SELVANE_TESTS "/worksheet_claims.txt";
 constexpr const char* kSums = SELVANE_TESTS "/worksheet_sums.txt";
@@ -32,14 +38,6 @@ const std::vector<std::string> kWorksheets = {"worksheets/Period1.rtf", "workshe
 const std::vector<std::string> kAnswers = {"worksheets/Period1Answers.rtf",
                                            "worksheets/Period2Answers.rtf",
                                            "worksheets/Period3Answers.rtf"};
-
-RichText ReadDocument(const std::string& name)
-{
-    RichTextResult result = ReadRichTextFile(std::string(SELVANE_HELP) + '/' + name);
-    if (RichText* text = std::get_if<RichText>(&result)) return std::move(*text);
-    ADD_FAILURE() << name << " does not open";
-    return {};
-}
 
 constexpr const char* kTeachers = "Teachers.rtf";
 
@@ -55,7 +53,7 @@ void Append(const Paragraph& paragraph, Passage& passage)
 {
     for (const Run& run : paragraph.runs) {
         passage.text += run.text;
-        if (run.format.colour == Colour{0, 0, 192}) passage.answers += run.text;
+        if (run.format.colour == rich_text::Colour{0, 0, 192}) passage.answers += run.text;
         if (run.format.bold && paragraph.format.headingLevel == 0) passage.bold += run.text + ' ';
     }
     passage.text += ' ';

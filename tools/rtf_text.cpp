@@ -4,15 +4,18 @@
 // Exits with 1 if the reader refuses the file, with 2 on wrong usage.
 #include "rich_text/reader.h"
 
+#include <algorithm>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <iostream>
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace {
 
-using namespace selvane;
 using namespace selvane::rich_text;
 
 // A mark's line holds all of its text, so a line break inside is written as U+2028.
@@ -71,7 +74,7 @@ std::string SizeMark(const Run& run)
     return "size:" + std::to_string(run.format.size / 2) + (run.format.size % 2 != 0 ? ".5" : "");
 }
 
-void PrintParagraph(const RichText& document, const Paragraph& paragraph)
+void PrintParagraph(const Document& document, const Paragraph& paragraph)
 {
     const auto linkMark = [&](const Run& run) {
         return run.link < 0 ? std::string()
@@ -111,7 +114,7 @@ std::string BySize(std::size_t first, std::size_t second)
     return std::to_string(first) + 'x' + std::to_string(second);
 }
 
-void PrintPictures(const RichText& document, const Paragraph& paragraph)
+void PrintPictures(const Document& document, const Paragraph& paragraph)
 {
     for (const Run& run : paragraph.runs) {
         if (run.picture < 0) continue;
@@ -125,7 +128,7 @@ void PrintPictures(const RichText& document, const Paragraph& paragraph)
 }
 
 // Tables nest at most eight deep.
-void PrintMarks(const RichText& document, const std::vector<Block>& blocks)
+void PrintMarks(const Document& document, const std::vector<Block>& blocks)
 {
     for (const Block& block : blocks) {
         if (const auto* paragraph = std::get_if<Paragraph>(&block.content)) {
@@ -142,18 +145,27 @@ void PrintMarks(const RichText& document, const std::vector<Block>& blocks)
     }
 }
 
-const char* Explanation(RichTextError error)
+// The bytes of a plain file, at most one more than the reader takes. Opening a pipe would wait.
+std::optional<std::string> BytesOf(const char* path)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error)) return std::nullopt;
+    const auto size = std::filesystem::file_size(path, error);
+    if (error) return std::nullopt;
+    std::string bytes(std::min<std::uintmax_t>(size, kMaxBytes + 1), '\0');
+    std::ifstream file(path, std::ios::binary);
+    if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return std::nullopt;
+    return bytes;
+}
+
+const char* Explanation(ReadError error)
 {
     switch (error) {
-    case RichTextError::CannotOpen:
-        return "cannot be opened";
-    case RichTextError::Folder:
-        return "is a folder";
-    case RichTextError::TooBig:
+    case ReadError::TooBig:
         return "is too big";
-    case RichTextError::NotRichText:
+    case ReadError::NotRichText:
         return "is no rich text";
-    case RichTextError::NothingReadable:
+    case ReadError::NothingReadable:
         return "has nothing readable in it";
     }
     return "";
@@ -169,12 +181,17 @@ int main(int argc, char** argv)
         return 2;
     }
     const char* path = argv[argc - 1];
-    const RichTextResult result = ReadRichTextFile(path);
-    if (const auto* error = std::get_if<RichTextError>(&result)) {
+    const std::optional<std::string> bytes = BytesOf(path);
+    if (!bytes) {
+        std::cerr << path << " cannot be opened or is no plain file\n";
+        return 1;
+    }
+    const ReadResult result = Read(*bytes);
+    if (const auto* error = std::get_if<ReadError>(&result)) {
         std::cerr << path << ' ' << Explanation(*error) << '\n';
         return 1;
     }
-    const RichText& document = std::get<RichText>(result);
+    const Document& document = std::get<Document>(result);
     if (marks)
         PrintMarks(document, document.blocks);
     else

@@ -1,5 +1,5 @@
-// The names of the controls, pictures and windows. A control's identifier is its name everywhere: in
-// the code, in the control table, in the window and in scripts.
+// The names of the controls, pictures and windows. A control's identifier is its name everywhere:
+// in the code, in the control table, in the window and in scripts.
 #pragma once
 
 #include "app/assertion.h"

@@ -14,7 +14,7 @@
 namespace selvane {
 
 namespace rich_text {
-struct RichText;
+struct Document;
 }
 struct Simulation;
 
@@ -67,7 +67,7 @@ struct Marker
 struct HelpPane
 {
     std::string document;                            // name last loaded, empty when emptied
-    std::shared_ptr<const rich_text::RichText> text; // null when emptied
+    std::shared_ptr<const rich_text::Document> text; // null when emptied
     unsigned loads = 0; // counts loads and emptyings: a new one starts at the top
 };
 

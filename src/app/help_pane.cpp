@@ -51,20 +51,19 @@ bool IsWebAddress(std::string_view link)
     host = host.substr(0, host.find_first_of("/?#"));
     if (const auto user = host.rfind('@'); user != std::string_view::npos)
         host.remove_prefix(user + 1);
-    return !host.empty() && host.front() != ':' &&
-           std::ranges::none_of(link, [](char sign) {
-               return (sign >= 0 && sign <= ' ') ||
-                      std::string_view("\"<>\\^`{|}\x7f").find(sign) != std::string_view::npos;
-           });
+    return !host.empty() && host.front() != ':' && std::ranges::none_of(link, [](char sign) {
+        return (sign >= 0 && sign <= ' ') ||
+               std::string_view("\"<>\\^`{|}\x7f").find(sign) != std::string_view::npos;
+    });
 }
 
 } // namespace
 
-std::shared_ptr<const rich_text::RichText> ReadPaneText(const std::string& bytes)
+std::shared_ptr<const rich_text::Document> ReadPaneText(const std::string& bytes)
 {
-    rich_text::RichTextResult result = rich_text::ReadRichText(bytes);
-    auto* const text = std::get_if<rich_text::RichText>(&result);
-    return text ? std::make_shared<const rich_text::RichText>(std::move(*text)) : nullptr;
+    rich_text::ReadResult result = rich_text::Read(bytes);
+    auto* const text = std::get_if<rich_text::Document>(&result);
+    return text ? std::make_shared<const rich_text::Document>(std::move(*text)) : nullptr;
 }
 
 HelpPane& PaneOf(Simulation& sim, WindowId window)
@@ -81,7 +80,7 @@ void ShowDocument(Simulation& sim, WindowId window, const std::string& name,
                   const std::string& bytes)
 {
     if (window == WindowId::UserGuide && !IsLoaded(sim, window)) return;
-    std::shared_ptr<const rich_text::RichText> text = ReadPaneText(bytes);
+    std::shared_ptr<const rich_text::Document> text = ReadPaneText(bytes);
     if (!text) return;
     HelpPane& pane = PaneOf(sim, window);
     pane.text = std::move(text);

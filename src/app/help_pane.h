@@ -19,10 +19,10 @@ HelpPane& PaneOf(Simulation& sim, WindowId window);
 void LoadDocument(Simulation& sim, WindowId window, std::string_view name);
 
 // The rich text in a document's bytes; null where they hold none.
-std::shared_ptr<const rich_text::RichText> ReadPaneText(const std::string& bytes);
+std::shared_ptr<const rich_text::Document> ReadPaneText(const std::string& bytes);
 
-// The bytes of a document that was asked for. Does nothing where they are no rich text, or where the
-// user guide is meant and has been closed meanwhile.
+// The bytes of a document that was asked for. Does nothing where they are no rich text, or where
+// the user guide is meant and has been closed meanwhile.
 void ShowDocument(Simulation& sim, WindowId window, const std::string& name,
                   const std::string& bytes);
 

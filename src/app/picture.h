@@ -44,8 +44,8 @@ struct Picture
     void Print(std::string_view text);
 };
 
-// The strokes that a picture can hold. Each scene clears its picture first and draws a few thousand;
-// far more come only where one of ours draws without clearing, which ends the program.
+// The strokes that a picture can hold. Each scene clears its picture first and draws a few
+// thousand; far more come only where one of ours draws without clearing, which ends the program.
 inline constexpr std::size_t kMostStrokes = 100'000;
 
 } // namespace selvane

@@ -29,7 +29,7 @@ struct Request
     };
 
     Kind kind;
-    std::string target{};              // the document's name, or the link
+    std::string target{}; // the document's name, or the link
     WindowId window = WindowId::Main;
 };
 

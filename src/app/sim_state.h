@@ -53,7 +53,7 @@ struct SimState
     double Zoom = 0;     // pixels per display unit, 0.1 to 2
     double ViewDeg = 0;  // tilt of the view; which sign it has depends on who wrote it last
     double ViewRad = 0;
-    double GlobeViewDeg = 0;          // minus the value of txtView, as the view bar left it
+    double GlobeViewDeg = 0;            // minus the value of txtView, as the view bar left it
     PictureId CurPic = PictureId::None; // the picture in use
 
     // The orbit's elements, derived by DrawOrbit.

@@ -48,8 +48,8 @@ struct ControlWidgets
     HelpPaneWidget* txtHelp = nullptr;
 };
 
-// Puts the controls on the panel, and fills the menu bar. What the user does to a widget goes to the
-// dispatcher.
+// Puts the controls on the panel, and fills the menu bar. What the user does to a widget goes to
+// the dispatcher.
 ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door);
 
 // The names of all controls that take the focus, in reading order: the main picture and the row

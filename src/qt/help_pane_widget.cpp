@@ -49,7 +49,7 @@ void HelpPaneWidget::ShowPane(const HelpPane& pane)
 
 void HelpPaneWidget::MakeDocument()
 {
-    const rich_text::RichText empty;
+    const rich_text::Document empty;
     std::unique_ptr<QTextDocument> made =
         MakeTextDocument(text_ ? *text_ : empty, font(), zoomPercent_ / 100.0, kPictureWidth);
     made->setParent(this); // the pane deletes it when the next one comes

@@ -9,7 +9,7 @@ namespace selvane {
 
 struct HelpPane;
 namespace rich_text {
-struct RichText;
+struct Document;
 }
 
 class HelpPaneWidget : public QTextBrowser
@@ -46,7 +46,7 @@ private:
     void Follow(const QUrl& link);
     void PaintOutline();
 
-    std::shared_ptr<const rich_text::RichText> text_;
+    std::shared_ptr<const rich_text::Document> text_;
     unsigned loads_ = 0;
     int zoomPercent_ = 100;
     int wheel_ = 0; // eighths of a degree not yet acted on

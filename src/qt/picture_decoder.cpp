@@ -1,6 +1,6 @@
 #include "qt/picture_decoder.h"
 
-#include "rich_text/rich_text.h"
+#include "rich_text/document.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -8,20 +8,16 @@
 #include <algorithm>
 
 namespace selvane {
-
-using namespace rich_text;
-
 namespace {
 
 constexpr int kHighest = 4096, kMostScreenDensity = 3; // pixels; image dots per shown pixel
-constexpr qint64 kMostPixels = 32'000'000;             // of one picture's data
 
 } // namespace
 
-QSize ShownSize(const Picture& picture, double zoom, int room)
+QSize ShownSize(const rich_text::Picture& picture, double zoom, int room)
 {
     QSizeF size(picture.widthTwips, picture.heightTwips);
-    size /= kTwipsPerPixel;
+    size /= rich_text::kTwipsPerPixel;
     if (size.isEmpty()) size = QSizeF(picture.widthPixels, picture.heightPixels);
     if (size.isEmpty()) size = QSizeF(32, 32);
     size *= zoom;
@@ -31,16 +27,17 @@ QSize ShownSize(const Picture& picture, double zoom, int room)
     return size.toSize().expandedTo({1, 1});
 }
 
-QImage PictureDecoder::Decode(const Picture& picture, QSize shown)
+QImage PictureDecoder::Decode(const rich_text::Picture& picture, QSize shown)
 {
-    if (picture.kind == PictureKind::Placeholder) return {};
+    if (picture.kind == rich_text::PictureKind::Placeholder) return {};
     QByteArray bytes =
         QByteArray::fromRawData(picture.bytes.data(), static_cast<qsizetype>(picture.bytes.size()));
     QBuffer buffer(&bytes);
-    QImageReader reader(&buffer, picture.kind == PictureKind::Png ? "png" : "jpeg");
+    QImageReader reader(&buffer, picture.kind == rich_text::PictureKind::Png ? "png" : "jpeg");
     reader.setAutoDetectImageFormat(false);
     const QSize whole = reader.size();
-    if (!whole.isValid() || qint64{whole.width()} * whole.height() > kMostPixels) return {};
+    if (!whole.isValid() || qint64{whole.width()} * whole.height() > rich_text::kMaxPicturePixels)
+        return {};
     const QSize wanted = whole.boundedTo(shown * kMostScreenDensity);
     const qint64 pixels = qint64{wanted.width()} * wanted.height();
     if (pixels > pixelsLeft_) return {};

@@ -1,10 +1,9 @@
 #include "qt/rich_text_document.h"
 
 #include "app/help_pane.h"
-
 #include "qt/appearance.h"
 #include "qt/picture_decoder.h"
-#include "qt/table_grid.h"
+#include "rich_text/table_grid.h"
 
 #include <QTextBlockFormat>
 #include <QTextCharFormat>
@@ -16,16 +15,20 @@
 #include <cmath>
 
 namespace selvane {
-
-using namespace rich_text;
-
 namespace {
 
+using namespace rich_text;
+using rich_text::Colour;
+
 constexpr int kMargin = 10;         // pixels round the text
-constexpr int kLongest = 31'680;    // twips, the widest page: no indent or space goes further
 constexpr int kListStep = 360;      // twips, of a list whose items tell no indents
 constexpr int kWholeLine = 240;     // line spacing of one line
 constexpr int kNarrowTable = 5'000; // twips; a wider table fills the pane instead
+
+QColor ToColour(Colour colour)
+{
+    return {colour.red, colour.green, colour.blue};
+}
 
 Qt::Alignment ToAlignment(ParagraphAlignment alignment)
 {
@@ -73,7 +76,7 @@ QString ToText(const std::string& text)
 class Writer
 {
 public:
-    Writer(const RichText& text, QTextDocument& document, double zoom, int pictureWidth)
+    Writer(const Document& text, QTextDocument& document, double zoom, int pictureWidth)
         : text_(text),
           document_(document),
           cursor_(&document),
@@ -92,10 +95,7 @@ public:
     }
 
 private:
-    double Pixels(int twips) const
-    {
-        return std::clamp(twips, -kLongest, kLongest) * zoom_ / kTwipsPerPixel;
-    }
+    double Pixels(int twips) const { return twips * zoom_ / kTwipsPerPixel; }
 
     struct Indents
     {
@@ -185,8 +185,8 @@ private:
         if (format.raise != 0)
             to.setBaselineOffset(
                 std::clamp(100.0 * format.raise / std::max<int>(format.size, 1), -100.0, 100.0));
-        if (format.colour) to.setForeground(ColourOf(*format.colour));
-        if (format.background) to.setBackground(ColourOf(*format.background));
+        if (format.colour) to.setForeground(ToColour(*format.colour));
+        if (format.background) to.setBackground(ToColour(*format.background));
         return to;
     }
 
@@ -294,7 +294,7 @@ private:
             table.mergeCells(placed.row, placed.column, placed.rows, placed.columns);
         QTextTableCell cell = table.cellAt(placed.row, placed.column);
         QTextTableCellFormat format = cell.format().toTableCellFormat(); // knows what is merged
-        if (placed.format->background) format.setBackground(ColourOf(*placed.format->background));
+        if (placed.format->background) format.setBackground(ToColour(*placed.format->background));
         if (placed.format->bordered) {
             format.setBorder(1);
             format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
@@ -306,7 +306,7 @@ private:
         for (const std::vector<Block>* blocks : placed.contents) Write(*blocks);
     }
 
-    const RichText& text_;
+    const Document& text_;
     QTextDocument& document_;
     QTextCursor cursor_;
     PictureDecoder decoder_;
@@ -317,7 +317,7 @@ private:
 
 } // namespace
 
-std::unique_ptr<QTextDocument> MakeTextDocument(const RichText& text, const QFont& font,
+std::unique_ptr<QTextDocument> MakeTextDocument(const rich_text::Document& text, const QFont& font,
                                                 double zoom, int pictureWidth)
 {
     auto document = std::make_unique<QTextDocument>();

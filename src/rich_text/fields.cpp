@@ -7,6 +7,8 @@ namespace selvane::rich_text {
 
 namespace {
 
+constexpr std::size_t kMaxLinks = 65'536;
+
 bool IsBlank(char c)
 {
     return c == ' ' || c == '\t' || c == '\n';
@@ -90,9 +92,8 @@ std::int32_t Number(std::string_view text)
     return std::clamp(number, 0, 0xFFFF);
 }
 
-} // namespace
-
-std::string LinkTarget(std::string_view instruction)
+// The target of a HYPERLINK, "#part" if only a part is named; empty if it is none.
+std::string HyperlinkTarget(std::string_view instruction)
 {
     InstructionWords words(instruction);
     const auto name = words.Next();
@@ -111,9 +112,22 @@ std::string LinkTarget(std::string_view instruction)
     return part.empty() ? target : target + '#' + part;
 }
 
-std::optional<SymbolField> ParseSymbolField(std::string_view instruction)
+} // namespace
+
+std::int32_t Field::Link(Document& document)
 {
-    InstructionWords words(instruction);
+    if (link_) return *link_;
+    link_ = -1;
+    std::string target = HyperlinkTarget(instruction.value);
+    if (target.empty() || document.links.size() >= kMaxLinks) return -1;
+    document.links.push_back(std::move(target));
+    link_ = static_cast<std::int32_t>(document.links.size()) - 1;
+    return *link_;
+}
+
+std::optional<SymbolField> Field::Symbol() const
+{
+    InstructionWords words(instruction.value);
     const auto name = words.Next();
     if (!name || !IsName(name->text, "SYMBOL")) return std::nullopt;
     SymbolField symbol;

@@ -1,15 +1,11 @@
 // Field instructions: HYPERLINK "page.html" \l "part", SYMBOL 97 \f "Symbol".
 #pragma once
 
-#include <cstdint>
+#include "rich_text/destination.h"
+
 #include <optional>
-#include <string>
-#include <string_view>
 
 namespace selvane::rich_text {
-
-// The target of a HYPERLINK, "#part" if only a part is named; empty if it is none.
-std::string LinkTarget(std::string_view instruction);
 
 struct SymbolField
 {
@@ -18,6 +14,21 @@ struct SymbolField
     bool isUnicode = false;
 };
 
-std::optional<SymbolField> ParseSymbolField(std::string_view instruction);
+// \field: its instruction is what it is, its result what it shows.
+struct Field
+{
+    ShortText instruction{16'384};
+    std::size_t shownBefore = 0; // what the document had shown when the field began
+
+    // What the first result found the instruction to link to: an index into Document::links, to
+    // which it is added; -1: nothing.
+    std::int32_t Link(Document& document);
+
+    // What a SYMBOL field stands for; none: it is another field.
+    std::optional<SymbolField> Symbol() const;
+
+private:
+    std::optional<std::int32_t> link_;
+};
 
 } // namespace selvane::rich_text

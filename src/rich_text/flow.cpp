@@ -1,5 +1,8 @@
 #include "rich_text/flow.h"
 
+#include "rich_text/header_tables.h"
+#include "rich_text/words.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
@@ -25,7 +28,81 @@ std::string_view Cut(std::string_view text, std::size_t most)
     return text.substr(0, most);
 }
 
+struct Target
+{
+    RowDefinition& row;
+    const ColourTable& colours;
+};
+
+template <CellMerge Merge> void MergeAcross(Target& to, const Token&)
+{
+    to.row.next.horizontalMerge = Merge;
+}
+
+template <CellMerge Merge> void MergeDown(Target& to, const Token&)
+{
+    to.row.next.verticalMerge = Merge;
+}
+
+using BorderOf = RowDefinition::BorderOf;
+
+template <BorderOf Owner> void SetBorderOf(Target& to, const Token&)
+{
+    to.row.borderOf = Owner;
+}
+
+void Border(Target& to, const Token&)
+{
+    if (to.row.borderOf == BorderOf::Cell) to.row.next.bordered = true;
+    if (to.row.borderOf == BorderOf::Row) to.row.bordered = true;
+}
+
+std::int32_t Edge(const Token& word)
+{
+    return std::clamp(word.number, -kLongestLength, kLongestLength);
+}
+
+constexpr auto kRowWords = WordTable<Target>({
+    {"trowd", [](Target& to, const Token&) { to.row = {}; }},
+    {"trleft", [](Target& to, const Token& word) { to.row.leftEdge = Edge(word); }},
+    {"trhdr", [](Target& to, const Token&) { to.row.repeatedHeader = true; }},
+    {"cellx", [](Target& to, const Token& word) { to.row.AddCell(Edge(word)); }},
+    {"clmgf", MergeAcross<CellMerge::First>},
+    {"clmrg", MergeAcross<CellMerge::Continued>},
+    {"clvmgf", MergeDown<CellMerge::First>},
+    {"clvmrg", MergeDown<CellMerge::Continued>},
+    {"clcbpat",
+     [](Target& to, const Token& word) { to.row.next.background = to.colours.Find(word.number); }},
+    {"clbrdrl", SetBorderOf<BorderOf::Cell>},
+    {"clbrdrr", SetBorderOf<BorderOf::Cell>},
+    {"clbrdrt", SetBorderOf<BorderOf::Cell>},
+    {"clbrdrb", SetBorderOf<BorderOf::Cell>},
+    {"trbrdrl", SetBorderOf<BorderOf::Row>},
+    {"trbrdrr", SetBorderOf<BorderOf::Row>},
+    {"trbrdrt", SetBorderOf<BorderOf::Row>},
+    {"trbrdrb", SetBorderOf<BorderOf::Row>},
+    {"trbrdrh", SetBorderOf<BorderOf::Row>},
+    {"trbrdrv", SetBorderOf<BorderOf::Row>},
+    {"brdrl", SetBorderOf<BorderOf::Other>},
+    {"brdrr", SetBorderOf<BorderOf::Other>},
+    {"brdrt", SetBorderOf<BorderOf::Other>},
+    {"brdrb", SetBorderOf<BorderOf::Other>},
+    {"box", SetBorderOf<BorderOf::Other>},
+    {"brdrs", Border},
+    {"brdrth", Border},
+    {"brdrdb", Border},
+    {"brdrdot", Border},
+    {"brdrdash", Border},
+    {"brdrhair", Border},
+});
+
 } // namespace
+
+bool RowDefinition::OnWord(const Token& word, const ColourTable& colours)
+{
+    Target target{*this, colours};
+    return Apply(kRowWords, target, word);
+}
 
 void RowDefinition::AddCell(std::int32_t rightEdge)
 {
@@ -33,9 +110,10 @@ void RowDefinition::AddCell(std::int32_t rightEdge)
     next.bordered = next.bordered || bordered;
     if (cells.size() < kMaxColumns) cells.push_back(next);
     next = {};
+    borderOf = BorderOf::Other;
 }
 
-bool RichTextFlow::NewRunIsNeeded(const CharacterFormat& format, std::int32_t link) const
+bool Flow::NewRunIsNeeded(const CharacterFormat& format, std::int32_t link) const
 {
     if (paragraph_.runs.empty()) return true;
     const Run& last = paragraph_.runs.back();
@@ -43,7 +121,7 @@ bool RichTextFlow::NewRunIsNeeded(const CharacterFormat& format, std::int32_t li
     return budget_->runs > 0 && (last.link != link || last.format != format);
 }
 
-void RichTextFlow::Append(std::string_view text, const CharacterFormat& format, std::int32_t link)
+void Flow::Append(std::string_view text, const CharacterFormat& format, std::int32_t link)
 {
     const std::string_view fitting = Cut(text, budget_->textBytes);
     budget_->textBytes = fitting.size() < text.size() ? 0 : budget_->textBytes - text.size();
@@ -55,8 +133,7 @@ void RichTextFlow::Append(std::string_view text, const CharacterFormat& format, 
     paragraph_.runs.back().text += fitting;
 }
 
-void RichTextFlow::AppendPicture(std::int32_t picture, const CharacterFormat& format,
-                                 std::int32_t link)
+void Flow::AppendPicture(std::int32_t picture, const CharacterFormat& format, std::int32_t link)
 {
     if (budget_->runs == 0) return;
     --budget_->runs;
@@ -65,16 +142,15 @@ void RichTextFlow::AppendPicture(std::int32_t picture, const CharacterFormat& fo
 
 // A row whose paragraphs do not say that they are in a table (many writers leave it out) is
 // known by its cells: some are there, and fewer than were defined.
-bool RichTextFlow::IsInUnfinishedRow() const
+bool Flow::IsInUnfinishedRow() const
 {
     return !levels_.empty() && !levels_.front().row.cells.empty() &&
            levels_.front().row.cells.size() < definition_.cells.size();
 }
 
-void RichTextFlow::EndParagraph(ParagraphFormat format, std::optional<ListItem> item,
-                                std::size_t depth)
+void Flow::EndParagraph(ParagraphFormat format, std::optional<ListItem> item, std::size_t depth)
 {
-    SetDepth(depth == 0 && IsInUnfinishedRow() ? 1 : depth);
+    SetTableDepth(depth == 0 && IsInUnfinishedRow() ? 1 : depth);
     paragraph_.format = std::move(format);
     paragraph_.item = std::move(item);
     Container().emplace_back().content.emplace<Paragraph>(std::exchange(paragraph_, {}));
@@ -82,39 +158,39 @@ void RichTextFlow::EndParagraph(ParagraphFormat format, std::optional<ListItem> 
     if (budget_->paragraphs > 0) --budget_->paragraphs;
 }
 
-void RichTextFlow::EndCell(std::size_t depth)
+void Flow::EndCell(std::size_t depth)
 {
-    SetDepth(std::max<std::size_t>(depth, 1));
+    SetTableDepth(std::max<std::size_t>(depth, 1));
     FinishCell(levels_.back());
 }
 
-void RichTextFlow::EndRow(std::size_t depth)
+void Flow::EndRow(std::size_t depth)
 {
     if (levels_.size() < depth) return;
-    if (depth == 1) SetDepth(1);
+    if (depth == 1) SetTableDepth(1);
     FinishRow(levels_.back(), Definition(levels_.size() > 1));
 }
 
-void RichTextFlow::AttachAfterParagraph(std::vector<Block> blocks)
+void Flow::AttachAfterParagraph(std::vector<Block> blocks)
 {
     MoveTo(attached_, blocks);
 }
 
-std::vector<Block> RichTextFlow::Finish()
+std::vector<Block> Flow::Finish()
 {
-    SetDepth(0);
+    SetTableDepth(0);
     MoveTo(blocks_, attached_);
     return std::move(blocks_);
 }
 
-void RichTextFlow::SetDepth(std::size_t depth)
+void Flow::SetTableDepth(std::size_t depth)
 {
     const std::size_t wanted = std::min(depth, kMaxTableNesting);
     while (levels_.size() > wanted) CloseTable();
     while (levels_.size() < wanted) levels_.emplace_back();
 }
 
-void RichTextFlow::CloseTable()
+void Flow::CloseTable()
 {
     Level level = std::move(levels_.back());
     levels_.pop_back();
@@ -127,7 +203,7 @@ void RichTextFlow::CloseTable()
     Container().emplace_back().content.emplace<Table>(std::move(level.table));
 }
 
-void RichTextFlow::FinishCell(Level& level)
+void Flow::FinishCell(Level& level)
 {
     if (level.row.cells.size() < kMaxColumns) {
         level.row.cells.push_back({{}, std::exchange(level.cell, {})});
@@ -136,7 +212,7 @@ void RichTextFlow::FinishCell(Level& level)
     }
 }
 
-void RichTextFlow::FinishRow(Level& level, const RowDefinition& definition)
+void Flow::FinishRow(Level& level, const RowDefinition& definition)
 {
     if (!level.cell.empty()) FinishCell(level);
     if (level.row.cells.empty()) return;

@@ -1,7 +1,8 @@
 // Gathers paragraphs, cells and rows, in the order of the file, into blocks.
 #pragma once
 
-#include "rich_text/rich_text.h"
+#include "rich_text/document.h"
+#include "rich_text/tokens.h"
 
 #include <string_view>
 #include <vector>
@@ -11,7 +12,7 @@ namespace selvane::rich_text {
 inline constexpr std::size_t kMaxTableNesting = 8;
 
 // What a document may still grow by; once one is used up, reading stops (runs: formats merge).
-struct RichTextBudget
+struct Budget
 {
     std::size_t paragraphs = 200'000;
     std::size_t textBytes = std::size_t{16} << 20;
@@ -20,30 +21,38 @@ struct RichTextBudget
     bool IsSpent() const { return paragraphs == 0 || textBytes == 0; }
 };
 
-// How the cells of a row look; rich text tells it apart from what is in them.
+class ColourTable;
+
+// How the cells of a row look; rich text says it apart from what is in them.
 struct RowDefinition
 {
+    // False: the word is none for rows.
+    bool OnWord(const Token& word, const ColourTable& colours);
+
+    // Ends the definition of a cell; past the 64th ignored.
+    void AddCell(std::int32_t rightEdge);
+
     std::vector<CellFormat> cells; // at most 64
-    CellFormat next;               // told so far about the cell whose edge comes next
+    CellFormat next;               // known so far about the cell whose edge comes next
     std::int32_t leftEdge = 0;
     bool repeatedHeader = false;
     bool bordered = false;
 
-    // Ends the definition of a cell; past the 64th ignored.
-    void AddCell(std::int32_t rightEdge);
+    enum class BorderOf : std::uint8_t { Other, Cell, Row };
+    BorderOf borderOf = BorderOf::Other; // what the next border word is about
 };
 
 // A stream of text: the body, or a text box. Table depth 0 is outside of tables; depths over
 // kMaxTableNesting count as that.
-class RichTextFlow
+class Flow
 {
 public:
-    explicit RichTextFlow(RichTextBudget& budget) : budget_(&budget) {}
+    explicit Flow(Budget& budget) : budget_(&budget) {}
 
     void Append(std::string_view text, const CharacterFormat& format, std::int32_t link);
     void AppendPicture(std::int32_t picture, const CharacterFormat& format, std::int32_t link);
     bool HasPendingRuns() const { return !paragraph_.runs.empty(); }
-    std::size_t Depth() const { return levels_.size(); }
+    std::size_t TableDepth() const { return levels_.size(); }
 
     // Ends the pending paragraph, even an empty one, as one of a cell at this depth.
     void EndParagraph(ParagraphFormat format, std::optional<ListItem> item, std::size_t depth);
@@ -74,12 +83,12 @@ private:
     bool NewRunIsNeeded(const CharacterFormat& format, std::int32_t link) const;
     std::vector<Block>& Container() { return levels_.empty() ? blocks_ : levels_.back().cell; }
     bool IsInUnfinishedRow() const;
-    void SetDepth(std::size_t depth);
+    void SetTableDepth(std::size_t depth);
     void CloseTable();
     static void FinishCell(Level& level);
     static void FinishRow(Level& level, const RowDefinition& definition);
 
-    RichTextBudget* budget_;
+    Budget* budget_;
     Paragraph paragraph_;
     std::vector<Block> attached_;
     std::vector<Block> blocks_;

@@ -1,16 +1,18 @@
 // The list definitions of a document, and the labels they make where none is stored.
 #pragma once
 
+#include "rich_text/destination.h"
+
 #include <array>
-#include <cstdint>
+#include <deque>
 #include <map>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace selvane::rich_text {
 
 inline constexpr std::size_t kListLevels = 9;
+inline constexpr std::int32_t kLastListLevel = kListLevels - 1;
 inline constexpr std::size_t kMaxLabelBytes = 256; // what a longer one has more is dropped
 
 enum class NumberStyle : std::uint8_t {
@@ -25,57 +27,98 @@ enum class NumberStyle : std::uint8_t {
     None
 };
 
-// As rich text numbers them (levelnfc); those it does not know count as Arabic.
-NumberStyle NumberStyleOf(std::int32_t code);
-
 // "4", "IV", "iv", "D", "d", "4th", "04"; empty for bullets, for None and below 1.
 std::string NumberText(NumberStyle style, std::int32_t number);
 
-struct ListLevel
-{
-    NumberStyle style = NumberStyle::Arabic;
-    std::int32_t start = 1;
-    std::string text; // as stored: a length, then characters; 0 to 8 stand for the levels' numbers
-};
-
-// Filled in the order of the file, then asked.
-class ListTables
+// \listtable: the definitions of lists.
+class ListTable : public Destination
 {
 public:
-    void StartList();
-    void StartLevel();               // past the ninth of a list ignored
-    void SetListId(std::int32_t id); // comes after the list's levels
-    ListLevel* CurrentLevel();       // nullptr before the first of a list
-
-    void StartOverride();
-    void SetOverriddenList(std::int32_t id);
-    void StartOverrideLevel();
-    void SetOverrideStart(std::int32_t start);
-    void SetOverrideNumber(std::int32_t number); // the number that paragraphs name
-
-    // Counts a paragraph of this list in and gives its label; none if there is no such list or
-    // its paragraphs show no label at all. Level 0 to 8.
-    std::optional<std::string> NextLabel(std::int32_t number, std::size_t level);
-
-private:
+    struct Level
+    {
+        NumberStyle style = NumberStyle::Arabic;
+        std::int32_t start = 1;
+        // As stored: a length, then characters, of which 0 to 8 stand for the levels' numbers.
+        ShortText label{kMaxLabelBytes, Takes::LabelTemplate};
+    };
     struct List
     {
-        std::vector<ListLevel> levels;
+        std::deque<Level> levels;                       // at most kListLevels
         std::array<std::int32_t, kListLevels> counts{}; // items so far; 0 before the first
     };
+
+    ListTable() : Destination(Takes::Nothing) {}
+    bool OnWord(const Token& word, Group& group) override;
+    Destination* PartOf(std::string_view word) override;
+
+    List* Find(std::int32_t id); // nullptr: none
+
+private:
+    Level* CurrentLevel(); // nullptr before the first of a list
+
+    std::deque<List> lists_;
+    std::map<std::int32_t, List*> listOfId_;
+};
+
+// \listoverridetable: which list a number in a paragraph means, and where it starts anew.
+class ListOverrideTable : public Destination
+{
+public:
     struct Override
     {
         std::int32_t list = 0;
-        std::map<std::size_t, std::int32_t> starts;
+        std::map<std::size_t, std::int32_t> starts; // by level
     };
 
-    std::string Label(const List& list, const Override& override, std::size_t level) const;
+    ListOverrideTable() : Destination(Takes::Nothing) {}
+    bool OnWord(const Token& word, Group& group) override;
 
-    std::vector<List> lists_;
-    std::map<std::int32_t, std::size_t> listOfId_;
+    const Override* Find(std::int32_t number) const; // nullptr: none
+
+private:
     std::map<std::int32_t, Override> overrides_;
-    Override override_;
-    std::size_t overrideLevel_ = 0; // counted from 1
+    Override current_;
+    std::size_t level_ = 0; // counted from 1
+};
+
+// \pn: a list as older writers define it, with each of its paragraphs.
+struct OldList : public Destination
+{
+    OldList() : Destination(Takes::Nothing) {}
+    bool OnWord(const Token& word, Group& group) override;
+    Destination* PartOf(std::string_view word) override;
+
+    bool showsLabel = false;
+    bool isNumbered = false;
+    NumberStyle style = NumberStyle::Arabic;
+    std::int32_t level = 0;
+    std::int32_t start = 1;
+    ShortText before{kMaxLabelBytes};
+    ShortText after{kMaxLabelBytes};
+};
+
+// The lists of a document, and how far their numbers have come.
+class Lists
+{
+public:
+    ListTable table;
+    ListOverrideTable overrides;
+
+    // nullptr when there are too many.
+    OldList* AddOldList();
+
+    // Counts the paragraph that ends in, and gives its place in a list. A label that the writer
+    // stored is what it showed; only where there is none it is worked out.
+    std::optional<ListItem> NextItem(const Group& group, std::string storedLabel);
+
+private:
+    std::optional<std::string> NextLabel(std::int32_t number, std::size_t level);
+    std::optional<ListItem> NextOldItem(const Group& group, std::string storedLabel);
+
+    std::deque<OldList> oldLists_;
+    std::int32_t oldCount_ = 0; // numbered paragraphs since the last one that was not
+    NumberStyle oldStyle_ = NumberStyle::Arabic;
+    std::int32_t oldLevel_ = 0;
 };
 
 } // namespace selvane::rich_text

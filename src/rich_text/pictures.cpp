@@ -1,8 +1,7 @@
 #include "rich_text/pictures.h"
 
-#include "rich_text/tokens.h"
-
 #include <algorithm>
+#include <utility>
 
 namespace selvane::rich_text {
 
@@ -10,7 +9,9 @@ namespace {
 
 constexpr std::string_view kPngSignature = "\x89PNG\r\n\x1A\n";
 constexpr std::string_view kJpegSignature = "\xFF\xD8\xFF";
-constexpr std::int32_t kMaxGoal = 31680; // twips, 22 inches, the largest page there is
+constexpr std::size_t kMaxBytes = std::size_t{16} << 20;
+constexpr std::size_t kMaxAllBytes = std::size_t{64} << 20;
+constexpr std::int32_t kMaxSide = 8192;  // pixels
 constexpr std::int32_t kMaxScale = 1000; // per cent
 
 struct Size
@@ -60,21 +61,46 @@ Size JpegSize(std::string_view data)
 
 bool IsDecodable(Size size)
 {
-    return size.width > 0 && size.height > 0 && size.width <= kMaxPictureSide &&
-           size.height <= kMaxPictureSide && size.width * size.height <= kMaxPicturePixels;
+    return size.width > 0 && size.height > 0 && size.width <= kMaxSide && size.height <= kMaxSide &&
+           size.width * size.height <= kMaxPicturePixels;
 }
 
 std::int32_t ShownLength(std::int32_t goal, std::int32_t scale, std::int32_t pixels)
 {
-    const std::int32_t known = std::clamp(goal, 0, kMaxGoal);
+    const std::int32_t known = std::clamp(goal, 0, kLongestLength);
     const std::int32_t unscaled = known > 0 ? known : pixels * kTwipsPerPixel;
     const std::int32_t percent = scale > 0 ? std::min(scale, kMaxScale) : 100;
-    return std::min(unscaled * percent / 100, kMaxGoal);
+    return std::min(unscaled * percent / 100, kLongestLength);
 }
 
 } // namespace
 
-void PictureReader::AddHex(std::string_view digits)
+void PictureReader::Start()
+{
+    data_.clear();
+    pendingDigit_ = -1;
+    isTooBig_ = false;
+    goalWidth_ = goalHeight_ = 0;
+    scaleX_ = scaleY_ = 100;
+}
+
+bool PictureReader::OnWord(const Token& word, Group&)
+{
+    if (word.text == "picwgoal")
+        goalWidth_ = word.number;
+    else if (word.text == "pichgoal")
+        goalHeight_ = word.number;
+    else if (word.text == "picscalex")
+        scaleX_ = word.number;
+    else if (word.text == "picscaley")
+        scaleY_ = word.number;
+    else
+        return false;
+    return true;
+}
+
+// What is no digit is passed over.
+void PictureReader::OnText(std::string_view digits, const Group&)
 {
     for (const char c : digits) {
         const int digit = HexDigit(c);
@@ -91,12 +117,13 @@ void PictureReader::AddHex(std::string_view digits)
 
 void PictureReader::AddBytes(std::string_view bytes)
 {
-    isTooBig_ = isTooBig_ || bytes.size() > kMaxPictureBytes - data_.size();
+    isTooBig_ = isTooBig_ || bytes.size() > kMaxBytes - data_.size();
     if (!isTooBig_) data_ += bytes;
 }
 
-Picture PictureReader::Finish(std::size_t bytesBefore)
+std::optional<Picture> PictureReader::Finish()
 {
+    if (data_.empty() && goalWidth_ == 0 && goalHeight_ == 0) return std::nullopt;
     Picture picture;
     Size size;
     if (data_.starts_with(kPngSignature)) {
@@ -106,15 +133,16 @@ Picture PictureReader::Finish(std::size_t bytesBefore)
         picture.kind = PictureKind::Jpeg;
         size = JpegSize(data_);
     }
-    if (!IsDecodable(size) || isTooBig_ || data_.size() > kMaxAllPictureBytes - bytesBefore) {
+    if (!IsDecodable(size) || isTooBig_ || data_.size() > kMaxAllBytes - bytesBefore_) {
         picture.kind = PictureKind::Placeholder;
     } else {
         picture.widthPixels = static_cast<std::int32_t>(size.width);
         picture.heightPixels = static_cast<std::int32_t>(size.height);
         picture.bytes = std::move(data_);
+        bytesBefore_ += picture.bytes.size();
     }
-    picture.widthTwips = ShownLength(goalWidth, scaleX, picture.widthPixels);
-    picture.heightTwips = ShownLength(goalHeight, scaleY, picture.heightPixels);
+    picture.widthTwips = ShownLength(goalWidth_, scaleX_, picture.widthPixels);
+    picture.heightTwips = ShownLength(goalHeight_, scaleY_, picture.heightPixels);
     return picture;
 }
 

@@ -1,38 +1,36 @@
-// Gathers the data of a picture and reads its size from its own header.
+// \pict: gathers the data of a picture and reads its size from its own header.
 #pragma once
 
-#include "rich_text/rich_text.h"
+#include "rich_text/destination.h"
 
-#include <string_view>
+#include <optional>
 
 namespace selvane::rich_text {
 
-inline constexpr std::size_t kMaxPictureBytes = std::size_t{16} << 20;
-inline constexpr std::size_t kMaxAllPictureBytes = std::size_t{64} << 20;
-inline constexpr std::int32_t kMaxPictureSide = 8192; // pixels
-inline constexpr std::int64_t kMaxPicturePixels = 32'000'000;
-
-class PictureReader
+class PictureReader : public Destination
 {
 public:
-    std::int32_t goalWidth = 0; // twips, before scaling
-    std::int32_t goalHeight = 0;
-    std::int32_t scaleX = 100; // per cent
-    std::int32_t scaleY = 100;
+    PictureReader() : Destination(Takes::Bytes) {}
 
-    void AddHex(std::string_view digits); // what is no digit is passed over
+    void Start();
+    bool OnWord(const Token& word, Group& group) override;
+    void OnText(std::string_view digits, const Group& group) override; // hexadecimal
     void AddBytes(std::string_view bytes);
 
     // The picture, a placeholder if the data are neither PNG nor JPEG, are over a limit (bytes:
-    // of this picture and of those before it), or claim to be too large to decode.
-    Picture Finish(std::size_t bytesBefore);
-
-    bool IsEmpty() const { return data_.empty() && goalWidth == 0 && goalHeight == 0; }
+    // of this picture and of those before it), or claim to be too large to decode; none if there
+    // is nothing to show.
+    std::optional<Picture> Finish();
 
 private:
     std::string data_;
     int pendingDigit_ = -1;
     bool isTooBig_ = false;
+    std::int32_t goalWidth_ = 0; // twips, before scaling
+    std::int32_t goalHeight_ = 0;
+    std::int32_t scaleX_ = 100; // per cent
+    std::int32_t scaleY_ = 100;
+    std::size_t bytesBefore_ = 0;
 };
 
 } // namespace selvane::rich_text

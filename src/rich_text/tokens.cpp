@@ -33,14 +33,14 @@ int HexDigit(char character)
     return -1;
 }
 
-Token RichTextTokens::Take(TokenKind kind, std::size_t length)
+Token Tokens::Take(TokenKind kind, std::size_t length)
 {
     Token token{kind, bytes_.substr(at_, length)};
     at_ += length;
     return token;
 }
 
-Token RichTextTokens::Next()
+Token Tokens::Next()
 {
     while (at_ < bytes_.size() && (Peek() == '\n' || Peek() == '\r' || Peek() == '\0')) ++at_;
     if (at_ >= bytes_.size()) {
@@ -66,7 +66,7 @@ Token RichTextTokens::Next()
     return Take(TokenKind::Text, static_cast<std::size_t>(last - first));
 }
 
-Token RichTextTokens::Control()
+Token Tokens::Control()
 {
     if (at_ >= bytes_.size()) return Next();
     if (IsLetter(Peek())) return Word();
@@ -76,14 +76,14 @@ Token RichTextTokens::Control()
     return Take(TokenKind::Symbol, 1);
 }
 
-Token RichTextTokens::LineEnd()
+Token Tokens::LineEnd()
 {
     const bool pair = bytes_.substr(at_).starts_with("\r\n");
     at_ += pair ? 2 : 1;
     return {TokenKind::Word, "par"};
 }
 
-Token RichTextTokens::HexByte()
+Token Tokens::HexByte()
 {
     ++at_;
     Token token{TokenKind::Byte, {}, true, -1};
@@ -97,7 +97,7 @@ Token RichTextTokens::HexByte()
     return token;
 }
 
-Token RichTextTokens::Word()
+Token Tokens::Word()
 {
     const std::size_t start = at_;
     while (IsLetter(Peek())) ++at_;
@@ -113,7 +113,7 @@ Token RichTextTokens::Word()
     return token.text == "bin" ? Binary(token.number) : token;
 }
 
-std::int32_t RichTextTokens::Digits(bool negative)
+std::int32_t Tokens::Digits(bool negative)
 {
     using Limits = std::numeric_limits<std::int32_t>;
     std::int64_t value = 0;
@@ -123,13 +123,13 @@ std::int32_t RichTextTokens::Digits(bool negative)
     return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
 }
 
-Token RichTextTokens::Binary(std::int32_t length)
+Token Tokens::Binary(std::int32_t length)
 {
     const auto wanted = static_cast<std::size_t>(std::max(length, 0));
     return Take(TokenKind::Binary, std::min(wanted, bytes_.size() - at_));
 }
 
-void RichTextTokens::SkipGroup()
+void Tokens::SkipGroup()
 {
     std::size_t depth = 0;
     for (;;) {

@@ -14,15 +14,19 @@ struct Token
     TokenKind kind = TokenKind::End;
     std::string_view text;   // the word's name; the symbol; text; binary data
     bool hasNumber = false;  // a word with a parameter
-    std::int32_t number = 0; // the parameter, saturated; a byte 0 to 255, or -1 if not hexadecimal
+    std::int32_t number = 0; // the parameter, saturated, 0 where there is none; a byte 0 to 255, or
+                             // -1 if not hexadecimal
+
+    // A switch without a parameter, or with any but 0, is on.
+    bool IsOn() const { return !hasNumber || number != 0; }
 };
 
 // Line ends and NULs are no tokens; a backslash before a line end is the word "par", a raw tab
 // the word "tab". The word "bin" comes as its data, cut to what is left.
-class RichTextTokens
+class Tokens
 {
 public:
-    explicit RichTextTokens(std::string_view bytes) : bytes_(bytes) {}
+    explicit Tokens(std::string_view bytes) : bytes_(bytes) {}
 
     Token Next();
 

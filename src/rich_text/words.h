@@ -1,52 +1,45 @@
-// The row of a control word. Only the interpreter's own files include this.
+// Tables of control words, sorted by the compiler: one row a word, with what it does.
 #pragma once
 
-#include "rich_text/interpreter.h"
+#include "rich_text/tokens.h"
 
 #include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
 
 namespace selvane::rich_text {
 
-struct RichTextInterpreter::WordRow
+template <typename Target> struct WordRow
 {
     std::string_view name;
-    Handler handler;
-    std::int32_t argument = 0;
-    bool isDestination = false; // says what its group is, and so may follow \*
+    void (*apply)(Target& target, const Token& word);
 };
 
-inline constexpr std::int32_t kLongestLength = 31680; // twips, 22 inches, the largest page
-
-// A switch without a parameter, or with any but 0, is on.
-inline bool IsOn(const Token& token)
+template <typename Target, std::size_t N>
+consteval std::array<WordRow<Target>, N> WordTable(WordRow<Target> (&&rows)[N])
 {
-    return !token.hasNumber || token.number != 0;
+    std::array<WordRow<Target>, N> table = std::to_array(std::move(rows));
+    std::ranges::sort(table, {}, &WordRow<Target>::name);
+    return table;
 }
 
-// The parameter, or 0 where there is none.
-inline std::int32_t NumberOf(const Token& token)
+template <std::size_t N>
+consteval std::array<std::string_view, N> SortedNames(std::string_view (&&names)[N])
 {
-    return token.hasNumber ? token.number : 0;
+    std::array<std::string_view, N> sorted = std::to_array(std::move(names));
+    std::ranges::sort(sorted);
+    return sorted;
 }
 
-template <auto Member> void RichTextInterpreter::Toggle(const Token& token, std::int32_t)
+// False: the table does not have the word.
+template <typename Target, std::size_t N>
+bool Apply(const std::array<WordRow<Target>, N>& table, Target& target, const Token& word)
 {
-    state_.character.*Member = IsOn(token);
-}
-
-template <auto Member> void RichTextInterpreter::Length(const Token& token, std::int32_t least)
-{
-    state_.paragraph.*Member = std::clamp(NumberOf(token), least, kLongestLength);
-}
-
-template <auto Member> void RichTextInterpreter::Flag(const Token& token, std::int32_t value)
-{
-    state_.paragraph.*Member = value != 0 && IsOn(token);
-}
-
-template <auto Member> void RichTextInterpreter::PictureLength(const Token& token, std::int32_t)
-{
-    picture_.*Member = NumberOf(token);
+    const auto row = std::ranges::lower_bound(table, word.text, {}, &WordRow<Target>::name);
+    if (row == table.end() || row->name != word.text) return false;
+    row->apply(target, word);
+    return true;
 }
 
 } // namespace selvane::rich_text

@@ -1,27 +1,24 @@
-#include "qt/table_grid.h"
+#include "rich_text/table_grid.h"
 
 #include <algorithm>
 #include <map>
 
-namespace selvane {
-
-using namespace rich_text;
+namespace selvane::rich_text {
 
 namespace {
 
-constexpr int kWidthUntold = 1440;    // twips, of a cell whose edge the document does not tell
-constexpr int kSameEdge = 60;         // twips; writers place an edge a little differently by row
-constexpr int kFarthestEdge = 31'680; // twips, the widest page
+constexpr int kDefaultWidth = 1440; // twips, of a cell whose edge the document does not give
+constexpr int kSameEdge = 60;       // twips; writers place an edge a little differently by row
 constexpr std::size_t kMostPlaces = 20'000;
 
 // The right edges of a row's cells, growing.
 std::vector<int> EdgesOf(const Row& row)
 {
     std::vector<int> edges;
-    int last = std::clamp(row.leftEdge, -kFarthestEdge, kFarthestEdge);
+    int last = row.leftEdge;
     for (const Cell& cell : row.cells) {
-        const int told = std::min(cell.format.rightEdge, kFarthestEdge);
-        last = told > last + kSameEdge ? told : last + kWidthUntold;
+        const int edge = cell.format.rightEdge;
+        last = edge > last + kSameEdge ? edge : last + kDefaultWidth;
         edges.push_back(last);
     }
     return edges;
@@ -139,7 +136,7 @@ TableGrid PlainGrid(const Table& table)
                                   &cells[column].format,
                                   {&cells[column].blocks}});
     }
-    grid.columnWidths.assign(columns, kWidthUntold);
+    grid.columnWidths.assign(columns, kDefaultWidth);
     return grid;
 }
 
@@ -153,7 +150,7 @@ TableGrid MakeGrid(const Table& table)
         edges.push_back(EdgesOf(row));
         left = edges.size() == 1 ? row.leftEdge : std::min(left, row.leftEdge);
     }
-    const Columns columns(edges, std::max(left, -kFarthestEdge));
+    const Columns columns(edges, left);
     if (columns.Count() == 0 ||
         static_cast<std::size_t>(columns.Count()) * table.rows.size() > kMostPlaces)
         return PlainGrid(table);
@@ -167,4 +164,4 @@ TableGrid MakeGrid(const Table& table)
     return {columns.Widths(), placer.Take()};
 }
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -1,8 +1,7 @@
 // A formatted document as plain values, free of any toolkit, for a pane to show.
-// Lengths in twips (20 = 1 pt), font sizes in half-points (2 = 1 pt), all text in UTF-8.
+// Lengths in twips (20 = 1 pt), none beyond kLongestLength either way; font sizes in half-points
+// (2 = 1 pt); all text in UTF-8.
 #pragma once
-
-#include "app/colour.h"
 
 #include <cstdint>
 #include <map>
@@ -13,8 +12,16 @@
 
 namespace selvane::rich_text {
 
-inline constexpr int kTwipsPerPoint = 20;
-inline constexpr int kTwipsPerPixel = 15; // at 96 dots per inch
+inline constexpr int kTwipsPerPixel = 15;              // at 96 dots per inch
+inline constexpr std::int32_t kLongestLength = 31'680; // twips, 22 inches: the largest page
+inline constexpr std::int64_t kMaxPicturePixels = 32'000'000;
+
+struct Colour
+{
+    std::uint8_t red = 0, green = 0, blue = 0; // each 0 to 255
+
+    bool operator==(const Colour&) const = default;
+};
 
 enum class VerticalPosition : std::uint8_t { Baseline, Superscript, Subscript };
 enum class ParagraphAlignment : std::uint8_t { Left, Centre, Right, Justified };
@@ -33,7 +40,7 @@ struct CharacterFormat
     VerticalPosition position = VerticalPosition::Baseline;
     std::int16_t raise = 0; // half-points above the baseline, negative below
     std::int16_t size = 24; // half-points, 2 to 3276
-    std::int32_t font = -1; // key of RichText::fonts; a font without an entry is the pane's own
+    std::int32_t font = -1; // key of Document::fonts; a font without an entry is the pane's own
     std::optional<Colour> colour;     // none: the pane's own text colour
     std::optional<Colour> background; // none: the pane's own background
 
@@ -46,8 +53,8 @@ struct Run
 {
     std::string text;
     CharacterFormat format;
-    std::int32_t link = -1;    // index into RichText::links, -1: none
-    std::int32_t picture = -1; // index into RichText::pictures, -1: none
+    std::int32_t link = -1;    // index into Document::links, -1: none
+    std::int32_t picture = -1; // index into Document::pictures, -1: none
 };
 
 struct TabStop
@@ -66,8 +73,8 @@ struct ParagraphFormat
     std::int32_t firstLineIndent = 0;
     std::int32_t spaceBefore = 0;
     std::int32_t spaceAfter = 0;
-    std::int32_t lineSpacing = 0; // 0: by the font; twips, or 240ths of a line if multiple
-    bool lineSpacingIsMultiple = false;
+    std::int32_t lineSpacing = 0; // 0: by the font; above: at least; below: exactly so many twips
+    bool lineSpacingIsMultiple = false; // the spacing is above 0, in 240ths of a line
     bool pageBreakBefore = false;
     bool rightToLeft = false;
     std::int8_t headingLevel = 0; // 1 to 6; 0: no heading
@@ -91,7 +98,7 @@ struct Paragraph
 
 struct CellFormat
 {
-    std::int32_t rightEdge = 0; // twips from the left margin; 0: not told
+    std::int32_t rightEdge = 0; // twips from the left margin; 0: not known
     CellMerge horizontalMerge = CellMerge::None;
     CellMerge verticalMerge = CellMerge::None;
     bool bordered = false;
@@ -135,7 +142,7 @@ struct Picture
     std::int32_t heightTwips = 0;
 };
 
-struct RichText
+struct Document
 {
     std::vector<Block> blocks;
     std::vector<std::string> links; // targets as the document gives them: "page.html#part"

@@ -1,9 +1,11 @@
 // Bytes of the many character sets of rich text, as UTF-8.
 #pragma once
 
-#include "rich_text/multi_byte_converter.h"
+#include "rich_text/code_page_converter.h"
 
+#include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 
 namespace selvane::rich_text {
@@ -36,8 +38,11 @@ public:
 private:
     void FeedPair(std::uint8_t byte, std::string& text);
     void FeedUtf8(std::uint8_t byte, std::string& text);
+    using Characters = std::array<std::string, 0x80>;
+    const Characters& UpperHalf(std::int32_t page); // the bytes 80 to FF of a page
 
-    MultiByteConverter converter_;
+    CodePageConverter converter_;
+    std::map<std::int32_t, Characters> upperHalves_; // converted when first asked for
     std::string pending_;
     std::int32_t page_ = kWesternPage;
 };

@@ -1,4 +1,4 @@
-#include "rich_text/rich_text.h"
+#include "rich_text/document.h"
 
 namespace selvane::rich_text {
 

@@ -1,6 +1,9 @@
-#include "rich_text/character_sets.h"
+#include "rich_text/code_pages.h"
 
 #include "rich_text/code_page_tables.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace selvane::rich_text {
 
@@ -22,6 +25,40 @@ bool IsBadSecond(std::uint8_t lead, std::uint8_t second)
            (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
 }
 
+struct PageRow
+{
+    std::int32_t number, page;
+};
+
+// Character set numbers of fonts; 77 to 89 are the Macintosh's.
+constexpr PageRow kCharacterSets[] = {
+    {0, kWesternPage}, {77, 10000}, {78, 932},   {79, 949},   {80, 936},   {81, 950},   {85, 10006},
+    {86, 10081},       {87, 874},   {88, 10029}, {89, 10007}, {128, 932},  {129, 949},  {130, 1361},
+    {134, 936},        {136, 950},  {161, 1253}, {162, 1254}, {163, 1258}, {177, 1255}, {178, 1256},
+    {186, 1257},       {204, 1251}, {222, 874},  {238, 1250}, {254, 437},  {255, 850},
+};
+
+// Pages read with another: those of the Macintosh, and GB 18030.
+constexpr PageRow kAliases[] = {{10001, 932}, {10002, 950}, {10003, 949},
+                                {10008, 936}, {10021, 874}, {54936, 936}};
+
+// 0: none of the rows.
+template <std::size_t N> std::int32_t PageIn(const PageRow (&rows)[N], std::int32_t number)
+{
+    const auto* row = std::ranges::find(rows, number, &PageRow::number);
+    return row == std::end(rows) ? 0 : row->page;
+}
+
+constexpr std::int32_t kPairPages[] = {932, 936, 949, 950, 1361};
+constexpr std::int32_t kSinglePages[] = {437,   850,   852,   866,   874,  1250, 1251,
+                                         1252,  1253,  1254,  1255,  1256, 1257, 1258,
+                                         10000, 10006, 10007, 10029, 10081};
+
+template <std::size_t N> bool IsIn(const std::int32_t (&pages)[N], std::int32_t page)
+{
+    return std::ranges::find(pages, page) != std::end(pages);
+}
+
 // What a byte over 7F means by itself in a page of two-byte characters; 0: it is a first byte.
 char32_t SingleInPair(std::int32_t page, std::uint8_t byte)
 {
@@ -35,81 +72,13 @@ char32_t SingleInPair(std::int32_t page, std::uint8_t byte)
 
 std::int32_t KnownPage(std::int32_t page)
 {
-    switch (page) {
-    case 10001:
-        return 932;
-    case 10002:
-        return 950;
-    case 10003:
-        return 949;
-    case 10008:
-    case 54936:
-        return 936;
-    case 10021:
-        return 874;
-    default:
-        break;
-    }
-    const bool known =
-        page == kUtf8Page || MultiByteConverter::Knows(page) || SingleByteTable(page) != nullptr;
-    return known ? page : 0;
+    if (const std::int32_t other = PageIn(kAliases, page)) return other;
+    return page == kUtf8Page || IsIn(kSinglePages, page) || IsIn(kPairPages, page) ? page : 0;
 }
 
 std::int32_t PageOfCharacterSet(std::int32_t characterSet)
 {
-    switch (characterSet) {
-    case 0:
-        return kWesternPage;
-    case 77:
-        return 10000;
-    case 78:
-    case 128:
-        return 932;
-    case 79:
-    case 129:
-        return 949;
-    case 130:
-        return 1361;
-    case 80:
-    case 134:
-        return 936;
-    case 81:
-    case 136:
-        return 950;
-    case 85:
-        return 10006;
-    case 86:
-        return 10081;
-    case 88:
-        return 10029;
-    case 89:
-        return 10007;
-    case 161:
-        return 1253;
-    case 162:
-        return 1254;
-    case 163:
-        return 1258;
-    case 177:
-        return 1255;
-    case 178:
-        return 1256;
-    case 186:
-        return 1257;
-    case 204:
-        return 1251;
-    case 87:
-    case 222:
-        return 874;
-    case 238:
-        return 1250;
-    case 254:
-        return 437;
-    case 255:
-        return 850;
-    default:
-        return 0;
-    }
+    return PageIn(kCharacterSets, characterSet);
 }
 
 void AppendUtf8(std::string& text, char32_t character)
@@ -142,11 +111,27 @@ void ByteDecoder::Feed(std::uint8_t byte, std::int32_t page, std::string& text)
         text += static_cast<char>(byte);
     } else if (page == kUtf8Page) {
         FeedUtf8(byte, text);
-    } else if (const char16_t* table = SingleByteTable(page)) {
-        if (table[byte - 0x80] != kUndefined) AppendUtf8(text, table[byte - 0x80]);
-    } else {
+    } else if (IsIn(kPairPages, page)) {
         FeedPair(byte, text);
+    } else {
+        text += UpperHalf(page)[byte - 0x80];
     }
+}
+
+const ByteDecoder::Characters& ByteDecoder::UpperHalf(std::int32_t page)
+{
+    const auto [found, isNew] = upperHalves_.try_emplace(page);
+    Characters& characters = found->second;
+    if (!isNew) return characters;
+    const char16_t* table = UpperHalfOf(page);
+    for (std::size_t i = 0; i < characters.size(); ++i) {
+        const char byte = static_cast<char>(0x80 + i);
+        if (!table)
+            characters[i] = converter_.Convert(page, {&byte, 1});
+        else if (table[i] != kUndefined)
+            AppendUtf8(characters[i], table[i]);
+    }
+    return characters;
 }
 
 void ByteDecoder::FeedPair(std::uint8_t byte, std::string& text)
@@ -158,9 +143,9 @@ void ByteDecoder::FeedPair(std::uint8_t byte, std::string& text)
             pending_ = static_cast<char>(byte);
         return;
     }
-    const auto lead = static_cast<std::uint8_t>(pending_[0]);
+    const char pair[] = {pending_[0], static_cast<char>(byte)};
     Reset();
-    const std::string character = converter_.Convert(page_, lead, byte);
+    const std::string character = converter_.Convert(page_, {pair, 2});
     text += character;
     // A plain character after a first byte that does not go with it stands for itself.
     if (character.empty() && byte < 0x80) text += static_cast<char>(byte);

@@ -2,18 +2,18 @@
 // and cells may be merged.
 #pragma once
 
-#include "rich_text/rich_text.h"
+#include "rich_text/document.h"
 
 #include <vector>
 
-namespace selvane {
+namespace selvane::rich_text {
 
 // One visible cell; its contents are those of all cells merged into it.
 struct PlacedCell
 {
     int row = 0, column = 0, rows = 1, columns = 1;
-    const rich_text::CellFormat* format = nullptr;
-    std::vector<const std::vector<rich_text::Block>*> contents;
+    const CellFormat* format = nullptr;
+    std::vector<const std::vector<Block>*> contents;
 };
 
 struct TableGrid
@@ -23,6 +23,6 @@ struct TableGrid
 };
 
 // The table outlives the grid. One with more than 20,000 places is not merged.
-TableGrid MakeGrid(const rich_text::Table& table);
+TableGrid MakeGrid(const Table& table);
 
-} // namespace selvane
+} // namespace selvane::rich_text

@@ -1,0 +1,13 @@
+// The words for the look of characters and paragraphs.
+#pragma once
+
+#include "rich_text/destination.h"
+
+namespace selvane::rich_text {
+
+class ColourTable;
+
+// False: the word is none of these.
+bool ApplyFormatWord(const Token& word, Group& group, const ColourTable& colours);
+
+} // namespace selvane::rich_text

@@ -1,0 +1,87 @@
+// The tables at the head of a document: fonts, colours, and the styles that are headings.
+#pragma once
+
+#include "rich_text/destination.h"
+#include "rich_text/text_decoder.h"
+
+#include <map>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace selvane::rich_text {
+
+// \fonttbl, and what the document says of the bytes of text that no font of the table is for.
+class FontTable : public Destination
+{
+public:
+    FontTable() : Destination(Takes::Text) {}
+    bool OnWord(const Token& word, Group& group) override;
+    void OnText(std::string_view text, const Group& group) override; // a semicolon ends a name
+
+    void SetCharacterSet(std::int32_t page) { characterSetPage_ = page; }
+    void SetCodePage(std::int32_t page);
+    void SetDefaultFont(std::int32_t font) { defaultFont_ = font; }
+
+    // What bytes in a font mean; below 0: in the document's own font.
+    Encoding EncodingOf(std::int32_t font) const;
+    Encoding EncodingOfNames() const; // of the fonts themselves
+
+    std::map<std::int32_t, std::string> Names() const;
+
+private:
+    struct Font
+    {
+        std::int32_t characterSet = 1;
+        std::int32_t page = 0; // 0: that of the character set
+        Glyphs glyphs = Glyphs::Text;
+        bool named = false;
+        std::string name;
+    };
+    Font* Current();
+    std::int32_t PageOf(std::int32_t font) const;
+
+    std::unordered_map<std::int32_t, Font> fonts_;
+    std::int32_t current_ = -1;
+    std::int32_t defaultFont_ = 0;
+    std::int32_t characterSetPage_ = kWesternPage;
+    std::int32_t codePage_ = 0; // 0: that of the character set
+};
+
+// \colortbl.
+class ColourTable : public Destination
+{
+public:
+    ColourTable() : Destination(Takes::Bytes) {}
+    bool OnWord(const Token& word, Group& group) override;
+    void OnText(std::string_view text, const Group& group) override; // a semicolon ends an entry
+    void OnEnd(const Group& group) override;                         // the last may have none
+
+    // None: automatic, as are numbers without an entry.
+    std::optional<Colour> Find(std::int32_t number) const;
+
+private:
+    Colour& Next();
+
+    std::vector<std::optional<Colour>> colours_;
+    std::optional<Colour> next_;
+};
+
+// \stylesheet.
+class StyleSheet : public Destination
+{
+public:
+    StyleSheet() : Destination(Takes::Text) {}
+    bool OnWord(const Token& word, Group& group) override;
+    void OnText(std::string_view text, const Group& group) override; // a semicolon ends a name
+
+    // Of a paragraph by its outline, or else by its style: 1 to 6; 0: no heading.
+    std::int8_t HeadingLevel(const Group& group) const;
+
+private:
+    std::unordered_map<std::int32_t, std::int8_t> levels_;
+    std::string name_;
+    std::int32_t current_ = 0;
+};
+
+} // namespace selvane::rich_text
