@@ -1,6 +1,6 @@
 #include "qt/picture_decoder.h"
 
-#include "rich_text/document.h"
+#include "rich_text/layout.h"
 
 #include <QBuffer>
 #include <QImageReader>
@@ -16,10 +16,8 @@ constexpr int kHighest = 4096, kMostScreenDensity = 3; // pixels; image dots per
 
 QSize ShownSize(const rich_text::Picture& picture, double zoom, int room)
 {
-    QSizeF size(picture.widthTwips, picture.heightTwips);
-    size /= rich_text::kTwipsPerPixel;
-    if (size.isEmpty()) size = QSizeF(picture.widthPixels, picture.heightPixels);
-    if (size.isEmpty()) size = QSizeF(32, 32);
+    const rich_text::PixelSize whole = rich_text::ShownSize(picture);
+    QSizeF size(whole.width, whole.height);
     size *= zoom;
     const QSizeF most(std::max(room, 1), kHighest);
     if (size.width() > most.width() || size.height() > most.height())

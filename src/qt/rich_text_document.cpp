@@ -3,6 +3,7 @@
 #include "app/help_pane.h"
 #include "qt/appearance.h"
 #include "qt/picture_decoder.h"
+#include "rich_text/layout.h"
 #include "rich_text/table_grid.h"
 
 #include <QTextBlockFormat>
@@ -12,7 +13,6 @@
 #include <QTextTable>
 #include <QUrl>
 #include <algorithm>
-#include <cmath>
 
 namespace selvane {
 namespace {
@@ -20,10 +20,7 @@ namespace {
 using namespace rich_text;
 using rich_text::Colour;
 
-constexpr int kMargin = 10;         // pixels round the text
-constexpr int kListStep = 360;      // twips, of a list whose items tell no indents
-constexpr int kWholeLine = 240;     // line spacing of one line
-constexpr int kNarrowTable = 5'000; // twips; a wider table fills the pane instead
+constexpr int kMargin = 10; // pixels round the text
 
 QColor ToColour(Colour colour)
 {
@@ -97,32 +94,11 @@ public:
 private:
     double Pixels(int twips) const { return twips * zoom_ / kTwipsPerPixel; }
 
-    struct Indents
-    {
-        int left, firstLine;
-    }; // twips
-    static Indents IndentsOf(const Paragraph& paragraph)
-    {
-        Indents indents{std::max(paragraph.format.leftIndent, 0), paragraph.format.firstLineIndent};
-        const bool labelled = paragraph.item && !paragraph.item->label.empty();
-        if (paragraph.item && indents.left == 0 && indents.firstLine == 0)
-            indents = {kListStep * (paragraph.item->level + 1), labelled ? -kListStep : 0};
-        indents.firstLine = std::max(indents.firstLine, -indents.left);
-        return indents;
-    }
-
-    // The toolkit counts tab stops from where the line begins. A hanging first line has one at the
-    // left indent without being told.
-    QList<QTextOption::Tab> TabsOf(const ParagraphFormat& format, Indents indents) const
+    QList<QTextOption::Tab> TabsOf(const Paragraph& paragraph) const
     {
         QList<QTextOption::Tab> tabs;
-        const int begin = indents.left + std::min(indents.firstLine, 0);
-        if (indents.firstLine < 0) tabs.append({Pixels(-indents.firstLine), QTextOption::LeftTab});
-        for (const TabStop& stop : format.tabStops)
-            if (stop.position > begin)
-                tabs.append({Pixels(stop.position - begin), ToTabType(stop.kind), u'.'});
-        std::sort(tabs.begin(), tabs.end(),
-                  [](const auto& a, const auto& b) { return a.position < b.position; });
+        for (const TabStop& stop : TabStopsOf(paragraph))
+            tabs.append({Pixels(stop.position), ToTabType(stop.kind), u'.'});
         return tabs;
     }
 
@@ -153,15 +129,14 @@ private:
         SetLineHeight(block, format);
         if (format.rightToLeft) block.setLayoutDirection(Qt::RightToLeft);
         if (format.headingLevel > 0) block.setHeadingLevel(format.headingLevel);
-        const QList<QTextOption::Tab> tabs = TabsOf(format, indents);
+        const QList<QTextOption::Tab> tabs = TabsOf(paragraph);
         if (!tabs.isEmpty()) block.setTabPositions(tabs);
         return block;
     }
 
     void SetFont(QTextCharFormat& to, const CharacterFormat& format) const
     {
-        to.setProperty(QTextFormat::FontPixelSize,
-                       std::max(static_cast<int>(std::lround(format.size * zoom_ * 2 / 3)), 1));
+        to.setProperty(QTextFormat::FontPixelSize, FontPixels(format.size, zoom_));
         if (format.bold) to.setFontWeight(QFont::Bold);
         if (format.italic) to.setFontItalic(true);
         if (format.underline) to.setFontUnderline(true);
@@ -243,29 +218,23 @@ private:
 
     void WriteParagraph(const Paragraph& paragraph)
     {
-        const CharacterFormat first =
-            paragraph.runs.empty() ? CharacterFormat{} : paragraph.runs.front().format;
-        Begin(BlockFormatOf(paragraph), CharFormatOf(first));
-        if (paragraph.item && !paragraph.item->label.empty()) {
-            CharacterFormat label = first;
-            label.bold = label.italic = label.underline = label.strike = false;
-            cursor_.insertText(ToText(paragraph.item->label) + u'\t', CharFormatOf(label));
-        }
+        Begin(BlockFormatOf(paragraph), CharFormatOf(FirstFormat(paragraph)));
+        if (paragraph.item && !paragraph.item->label.empty())
+            cursor_.insertText(ToText(paragraph.item->label) + u'\t',
+                               CharFormatOf(LabelFormat(paragraph)));
         for (const Run& run : paragraph.runs) WriteRun(run);
     }
 
     QTextTableFormat TableFormatOf(const TableGrid& grid) const
     {
-        int whole = 0;
-        for (const int width : grid.columnWidths) whole += width;
+        const int whole = grid.Width();
         QList<QTextLength> widths;
         for (const int width : grid.columnWidths)
             widths.append(QTextLength(QTextLength::PercentageLength, 100.0 * width / whole));
         QTextTableFormat format;
         format.setColumnWidthConstraints(widths);
-        format.setWidth(whole > kNarrowTable
-                            ? QTextLength(QTextLength::PercentageLength, 100)
-                            : QTextLength(QTextLength::FixedLength, Pixels(whole)));
+        format.setWidth(grid.IsWide() ? QTextLength(QTextLength::PercentageLength, 100)
+                                      : QTextLength(QTextLength::FixedLength, Pixels(whole)));
         format.setCellPadding(3 * zoom_);
         format.setCellSpacing(0);
         format.setBorder(0);

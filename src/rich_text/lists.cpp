@@ -132,7 +132,7 @@ std::string LabelOf(const ListTable::List& list, const ListOverrideTable::Overri
     std::string label;
     for (const char c : Template(list.levels[level].label.value)) {
         const auto place = static_cast<unsigned char>(c);
-        if (label.size() >= kMaxLabelBytes) break;
+        if (label.size() >= kMaxLabelBytes && (place & 0xC0) != 0x80) break; // whole characters
         if (place >= kListLevels) {
             label += c;
         } else if (place < list.levels.size()) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <numeric>
 
 namespace selvane::rich_text {
 
@@ -141,6 +142,11 @@ TableGrid PlainGrid(const Table& table)
 }
 
 } // namespace
+
+int TableGrid::Width() const
+{
+    return std::accumulate(columnWidths.begin(), columnWidths.end(), 0);
+}
 
 TableGrid MakeGrid(const Table& table)
 {

@@ -20,6 +20,9 @@ struct TableGrid
 {
     std::vector<int> columnWidths; // twips, each above 0; at least one
     std::vector<PlacedCell> cells; // row by row
+
+    int Width() const;                              // twips
+    bool IsWide() const { return Width() > 5'000; } // and so fills the pane instead
 };
 
 // The table outlives the grid. One with more than 20,000 places is not merged.
