@@ -7,6 +7,7 @@
 #include "replay/stage.h"
 #include "rich_text/document.h"
 
+#include <QBuffer>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -216,6 +217,51 @@ TEST(Pane, TablesStandInAGridAndBrokenPicturesInAFrame)
     EXPECT_EQ(table->cellAt(1, 1).firstCursorPosition().block().text(), "e");
     const int shown = int(pane.widget.document()->size().width());
     EXPECT_LE(shown, pane.widget.viewport()->width()) << "a wide picture is held to the pane";
+}
+
+TEST(Pane, LinesKeepTheirDistance)
+{
+    const auto height = [](const std::string& spacing) {
+        Pane pane;
+        pane.widget.ShowPane(PaneOf("\\fs24" + spacing + " one\\line two\\line three\\par"));
+        return pane.widget.document()->size().height();
+    };
+    const double font = height("");
+    EXPECT_EQ(height("\\sl30"), font) << "at least, and the font needs more";
+    EXPECT_NEAR(height("\\sl600") - font, 3 * (40 - (font - 20) / 3), 1);
+    EXPECT_NEAR(height("\\sl-600"), height("\\sl600"), 1);
+    EXPECT_NEAR(height("\\sl-240"), 3 * 16 + 20, 1) << "exactly, though the font needs more";
+    EXPECT_EQ(height("\\sl480\\slmult1"), height("\\sl-480\\slmult1"));
+}
+
+TEST(Pane, APictureIsDecodedAndShownInItsSize)
+{
+    QImage stripes(3, 2, QImage::Format_RGB32);
+    stripes.fill(QColor(10, 200, 30));
+    stripes.setPixelColor(0, 0, QColor(250, 0, 0));
+    for (const char* format : {"png", "jpeg"}) {
+        QBuffer bytes;
+        stripes.scaled(30, 20).save(&bytes, format, 100);
+        const std::string hex = bytes.data().toHex().toStdString();
+        Pane pane;
+        pane.widget.ShowPane(PaneOf("{\\pict\\" + std::string(format) +
+                                    "blip\\picwgoal900\\pichgoal600 " + hex + "}"));
+        const QTextImageFormat shown = pane.FormatAt(0).toImageFormat();
+        EXPECT_EQ(QSizeF(shown.width(), shown.height()), QSizeF(60, 40)) << format;
+        const auto image = pane.widget.document()
+                               ->resource(QTextDocument::ImageResource, QUrl(shown.name()))
+                               .value<QImage>();
+        ASSERT_EQ(image.size(), QSize(30, 20)) << format;
+        const QImage window = pane.widget.viewport()->grab().toImage();
+        const auto isNear = [](QColor one, QColor other) {
+            return std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
+                       std::abs(one.blue() - other.blue()) <
+                   40;
+        };
+        EXPECT_TRUE(isNear(image.pixelColor(3, 3), QColor(250, 0, 0))) << format;
+        EXPECT_TRUE(isNear(window.pixelColor(16, 16), QColor(250, 0, 0))) << format;
+        EXPECT_TRUE(isNear(window.pixelColor(60, 40), QColor(10, 200, 30))) << format;
+    }
 }
 
 TEST(UserGuideFrame, ThePaneFollowsTheWindowAndNothingElseMoves)
