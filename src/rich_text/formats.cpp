@@ -4,6 +4,7 @@
 #include "rich_text/lists.h"
 #include "rich_text/words.h"
 
+#include <limits>
 #include <utility>
 
 namespace selvane::rich_text {
@@ -15,6 +16,8 @@ constexpr std::int32_t kLargestSize = 3276; // half-points
 constexpr std::int32_t kDefaultRaise = 6;   // half-points
 constexpr std::int32_t kMaxUnicodeSkip = 1000;
 constexpr std::size_t kMaxTabStops = 32;
+constexpr auto kLeast = std::numeric_limits<std::int32_t>::min();
+constexpr auto kMost = std::numeric_limits<std::int32_t>::max();
 
 struct Target
 {
@@ -40,9 +43,9 @@ template <int Sign> void Shift(Target& to, const Token& word)
         static_cast<std::int16_t>(Sign * std::clamp(raise, -kLargestSize, kLargestSize));
 }
 
-void Background(Target& to, const Token& word)
+template <auto Member> void Paint(Target& to, const Token& word)
 {
-    to.group.character.background = to.colours.Find(word.number);
+    to.group.character.*Member = to.colours.Find(word.number);
 }
 
 template <ParagraphAlignment Alignment> void Align(Target& to, const Token&)
@@ -58,6 +61,17 @@ template <auto Member, std::int32_t Least> void Length(Target& to, const Token& 
 template <auto Member> void Flag(Target& to, const Token& word)
 {
     to.group.paragraph.*Member = word.IsOn();
+}
+
+template <auto Member, std::int32_t Least, std::int32_t Most>
+void Number(Target& to, const Token& word)
+{
+    to.group.*Member = std::clamp(word.number, Least, Most);
+}
+
+template <auto Member> void Switch(Target& to, const Token& word)
+{
+    to.group.*Member = word.IsOn();
 }
 
 template <TabKind Kind> void NextTab(Target& to, const Token&)
@@ -129,13 +143,12 @@ constexpr auto kFormatWords = WordTable<Target>({
          const std::int32_t size = word.number > 0 ? word.number : kDefaultSize;
          to.group.character.size = static_cast<std::int16_t>(std::clamp(size, 2, kLargestSize));
      }},
-    {"cf", [](Target& to,
-              const Token& word) { to.group.character.colour = to.colours.Find(word.number); }},
-    {"cb", Background},
-    {"highlight", Background},
-    {"chcbpat", Background},
-    {"v", [](Target& to, const Token& word) { to.group.hidden = word.IsOn(); }},
-    {"deleted", [](Target& to, const Token& word) { to.group.deleted = word.IsOn(); }},
+    {"cf", Paint<&Character::colour>},
+    {"cb", Paint<&Character::background>},
+    {"highlight", Paint<&Character::background>},
+    {"chcbpat", Paint<&Character::background>},
+    {"v", Switch<&Group::hidden>},
+    {"deleted", Switch<&Group::deleted>},
     {"plain",
      [](Target& to, const Token&) {
          to.group.character = {};
@@ -165,20 +178,15 @@ constexpr auto kFormatWords = WordTable<Target>({
     {"tqc", NextTab<TabKind::Centre>},
     {"tqdec", NextTab<TabKind::Decimal>},
     {"tx", AddTabStop},
-    {"s", [](Target& to, const Token& word) { to.group.style = word.number; }},
-    {"outlinelevel",
-     [](Target& to, const Token& word) { to.group.outline = std::clamp(word.number, 0, 9); }},
-    {"ls", [](Target& to, const Token& word) { to.group.listNumber = word.number; }},
-    {"ilvl",
-     [](Target& to, const Token& word) {
-         to.group.listLevel = std::clamp(word.number, 0, kLastListLevel);
-     }},
+    {"s", Number<&Group::style, kLeast, kMost>},
+    {"outlinelevel", Number<&Group::outline, 0, 9>},
+    {"ls", Number<&Group::listNumber, kLeast, kMost>},
+    {"ilvl", Number<&Group::listLevel, 0, kLastListLevel>},
+    {"itap", Number<&Group::tableNesting, 0, 1000>},
     {"intbl",
      [](Target& to, const Token& word) {
          to.group.tableNesting = word.IsOn() ? std::max(to.group.tableNesting, 1) : 0;
      }},
-    {"itap", [](Target& to,
-                const Token& word) { to.group.tableNesting = std::clamp(word.number, 0, 1000); }},
 });
 
 } // namespace

@@ -72,26 +72,11 @@ std::string Trimmed(const std::string& text)
 // As \levelnfc numbers them; those not known count as Arabic.
 NumberStyle NumberStyleOf(std::int32_t code)
 {
-    switch (code) {
-    case 1:
-        return NumberStyle::UpperRoman;
-    case 2:
-        return NumberStyle::LowerRoman;
-    case 3:
-        return NumberStyle::UpperLetter;
-    case 4:
-        return NumberStyle::LowerLetter;
-    case 5:
-        return NumberStyle::Ordinal;
-    case 22:
-        return NumberStyle::TwoDigits;
-    case 23:
-        return NumberStyle::Bullet;
-    case 255:
-        return NumberStyle::None;
-    default:
-        return NumberStyle::Arabic;
-    }
+    if (code == 22) return NumberStyle::TwoDigits;
+    if (code == 23) return NumberStyle::Bullet;
+    if (code == 255) return NumberStyle::None;
+    const bool isInOrder = code >= 0 && code <= static_cast<std::int32_t>(NumberStyle::Ordinal);
+    return isInOrder ? static_cast<NumberStyle>(code) : NumberStyle::Arabic;
 }
 
 template <bool ShowsLabel, bool IsNumbered> void SetKind(OldList& list, const Token&)

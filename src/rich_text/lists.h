@@ -15,6 +15,7 @@ inline constexpr std::size_t kListLevels = 9;
 inline constexpr std::int32_t kLastListLevel = kListLevels - 1;
 inline constexpr std::size_t kMaxLabelBytes = 256; // what a longer one has more is dropped
 
+// The first six in the order in which \levelnfc numbers them.
 enum class NumberStyle : std::uint8_t {
     Arabic,
     UpperRoman,

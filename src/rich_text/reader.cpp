@@ -50,6 +50,7 @@ private:
     // Tokens.
     void OnToken(const Token& token);
     void OnWord(const Token& word);
+    void OnUnicode(const Token& word);
     void OnSymbol(char symbol);
     void OnByte(std::int32_t byte);
     void OnText(std::string_view text);
@@ -75,6 +76,7 @@ private:
     void EnterPart(std::string_view word);
     void EnterUnseen();
     void LeaveUnseen();
+    void EnterShapeValue();
     void EnterPicture();
     void EnterTextBox();
     void EnterOldList();
@@ -85,7 +87,6 @@ private:
     void StartFieldResult();
 
     struct Words; // tables of what the words do
-    void StartUnicode(const Token& word);
 
     Content content_;
     std::deque<Body> bodies_;  // never empty; the innermost text box last
@@ -107,6 +108,8 @@ private:
 
 struct Reader::Words
 {
+    template <auto Action> static void Do(Reader& r, const Token&) { (r.*Action)(); }
+
     // Words that say what their group is, and so may follow \*.
     static constexpr auto kGroups = WordTable<Reader>({
         {"fonttbl", [](Reader& r, const Token&) { r.Enter(r.content_.fonts); }},
@@ -114,26 +117,26 @@ struct Reader::Words
         {"stylesheet", [](Reader& r, const Token&) { r.Enter(r.content_.styles); }},
         {"listtable", [](Reader& r, const Token&) { r.Enter(r.content_.lists.table); }},
         {"listoverridetable", [](Reader& r, const Token&) { r.Enter(r.content_.lists.overrides); }},
-        {"listtext", [](Reader& r, const Token&) { r.EnterLabel(); }},
-        {"pntext", [](Reader& r, const Token&) { r.EnterLabel(); }},
-        {"pn", [](Reader& r, const Token&) { r.EnterOldList(); }},
+        {"listtext", Do<&Reader::EnterLabel>},
+        {"pntext", Do<&Reader::EnterLabel>},
+        {"pn", Do<&Reader::EnterOldList>},
         {"nesttableprops",
          [](Reader& r, const Token&) { r.group_.inNestedTableProperties = true; }},
-        {"field", [](Reader& r, const Token&) { r.StartField(); }},
-        {"fldinst", [](Reader& r, const Token&) { r.EnterFieldInstruction(); }},
-        {"fldrslt", [](Reader& r, const Token&) { r.StartFieldResult(); }},
-        {"pict", [](Reader& r, const Token&) { r.EnterPicture(); }},
+        {"field", Do<&Reader::StartField>},
+        {"fldinst", Do<&Reader::EnterFieldInstruction>},
+        {"fldrslt", Do<&Reader::StartFieldResult>},
+        {"pict", Do<&Reader::EnterPicture>},
         {"shppict", [](Reader&, const Token&) {}},
-        {"object", [](Reader& r, const Token&) { r.EnterUnseen(); }},
-        {"result", [](Reader& r, const Token&) { r.LeaveUnseen(); }},
-        {"shp", [](Reader& r, const Token&) { r.EnterUnseen(); }},
-        {"shpgrp", [](Reader& r, const Token&) { r.EnterUnseen(); }},
-        {"shpinst", [](Reader& r, const Token&) { r.EnterUnseen(); }},
-        {"shptxt", [](Reader& r, const Token&) { r.EnterTextBox(); }},
-        {"do", [](Reader& r, const Token&) { r.EnterUnseen(); }},
-        {"dptxbxtext", [](Reader& r, const Token&) { r.EnterTextBox(); }},
-        {"upr", [](Reader& r, const Token&) { r.EnterUnseen(); }},
-        {"ud", [](Reader& r, const Token&) { r.LeaveUnseen(); }},
+        {"object", Do<&Reader::EnterUnseen>},
+        {"result", Do<&Reader::LeaveUnseen>},
+        {"shp", Do<&Reader::EnterUnseen>},
+        {"shpgrp", Do<&Reader::EnterUnseen>},
+        {"shpinst", Do<&Reader::EnterUnseen>},
+        {"shptxt", Do<&Reader::EnterTextBox>},
+        {"do", Do<&Reader::EnterUnseen>},
+        {"dptxbxtext", Do<&Reader::EnterTextBox>},
+        {"upr", Do<&Reader::EnterUnseen>},
+        {"ud", Do<&Reader::LeaveUnseen>},
     });
 
     template <char32_t Character> static void Put(Reader& r, const Token&)
@@ -158,15 +161,8 @@ struct Reader::Words
         {"leveltext", [](Reader& r, const Token& word) { r.EnterPart(word.text); }},
         {"pntxtb", [](Reader& r, const Token& word) { r.EnterPart(word.text); }},
         {"pntxta", [](Reader& r, const Token& word) { r.EnterPart(word.text); }},
-        {"sv",
-         [](Reader& r, const Token&) {
-             if (!r.IsInShape())
-                 r.SkipGroup();
-             else
-                 r.Enter(r.shapeValue_);
-         }},
-
-        {"u", [](Reader& r, const Token& word) { r.StartUnicode(word); }},
+        {"sv", Do<&Reader::EnterShapeValue>},
+        {"u", [](Reader& r, const Token& word) { r.OnUnicode(word); }},
         {"tab", Put<'\t'>},
         {"line", Put<'\n'>},
         {"lbr", Put<'\n'>},
@@ -356,7 +352,7 @@ void Reader::OnBinary(std::string_view bytes)
     if (IsIn(picture_)) picture_.AddBytes(bytes);
 }
 
-void Reader::StartUnicode(const Token& word)
+void Reader::OnUnicode(const Token& word)
 {
     if (!word.hasNumber) return;
     EmitText(decoder_.Unicode(word.number, CurrentEncoding()));
@@ -446,6 +442,15 @@ void Reader::EnterUnseen()
 void Reader::LeaveUnseen()
 {
     if (IsIn(unseen_)) group_.destination = group_.outside;
+}
+
+// It may be the picture that the shape shows.
+void Reader::EnterShapeValue()
+{
+    if (IsInShape())
+        Enter(shapeValue_);
+    else
+        SkipGroup();
 }
 
 void Reader::EnterTextBox()
