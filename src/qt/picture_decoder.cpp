@@ -14,12 +14,12 @@ constexpr int kHighest = 4096, kMostScreenDensity = 3; // pixels; image dots per
 
 } // namespace
 
-QSize ShownSize(const rich_text::Picture& picture, double zoom, int room)
+QSize ShownSize(const rich_text::Picture& picture, double zoom, int widest)
 {
     const rich_text::PixelSize whole = rich_text::ShownSize(picture);
     QSizeF size(whole.width, whole.height);
     size *= zoom;
-    const QSizeF most(std::max(room, 1), kHighest);
+    const QSizeF most(std::max(widest, 1), kHighest);
     if (size.width() > most.width() || size.height() > most.height())
         size.scale(most, Qt::KeepAspectRatio);
     return size.toSize().expandedTo({1, 1});

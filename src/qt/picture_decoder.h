@@ -11,9 +11,9 @@ namespace rich_text {
 struct Picture;
 }
 
-// The size to show a picture in, pixels: as the document tells, at most as wide as the room and
+// The size to show a picture in, pixels: as the document gives it, at most so wide and
 // 4096 high, its proportions kept.
-QSize ShownSize(const rich_text::Picture& picture, double zoom, int room);
+QSize ShownSize(const rich_text::Picture& picture, double zoom, int widest);
 
 // Decodes pictures within a budget of pixels for a whole document.
 class PictureDecoder

@@ -35,7 +35,7 @@ public:
         char* out = utf8.data();
         std::size_t inLeft = from.size();
         std::size_t outLeft = utf8.size();
-        iconv(descriptor_, nullptr, nullptr, nullptr, nullptr); // forget an earlier failure
+        iconv(descriptor_, nullptr, nullptr, nullptr, nullptr); // back to the start after a failure
         if (iconv(descriptor_, &in, &inLeft, &out, &outLeft) == kFailed || inLeft > 0) return {};
         iconv(descriptor_, nullptr, nullptr, &out, &outLeft); // some wait for a combining mark
         return {utf8.data(), utf8.size() - outLeft};

@@ -19,7 +19,7 @@ struct Indents
 Indents IndentsOf(const Paragraph& paragraph);
 
 // Tab stops in growing order, twips from where the lines begin (left, or left + firstLine where
-// that hangs out). A hanging first line has one at the left indent without being told.
+// that hangs out). A hanging first line has one at the left indent whatever the document gives.
 std::vector<TabStop> TabStopsOf(const Paragraph& paragraph);
 
 // A size in half-points as whole pixels at this zoom, at least 1.

@@ -33,7 +33,7 @@ public:
     std::string_view CodePoint(char32_t character, const Encoding& encoding);
     std::string_view Character(char32_t character);
 
-    // Forgets half a character.
+    // Drops half a character.
     void Reset();
 
 private:
