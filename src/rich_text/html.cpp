@@ -12,7 +12,7 @@ namespace selvane::rich_text {
 namespace {
 
 constexpr std::size_t kMostBytes = std::size_t{16} << 20;
-constexpr double kLinePerFont = 1.22; // height of a line of Carlito by its font size
+constexpr double kLinePerFont = 1.4414; // height of a line by its font size, as the window has it
 constexpr std::string_view kHexDigits = "0123456789abcdef";
 
 // "12.5", at most two decimals.
@@ -147,13 +147,14 @@ Style StyleOf(const CharacterFormat& format, bool isLink)
 std::string LineHeight(const Paragraph& paragraph)
 {
     const std::int32_t spacing = paragraph.format.lineSpacing;
-    if (paragraph.format.lineSpacingIsMultiple)
-        return Decimal(kLinePerFont * std::clamp(double(spacing) / kWholeLine, 0.5, 5.0));
     if (spacing < 0) return TwipsInPixels(-spacing);
     int largest = FontPixels(FirstFormat(paragraph).size, 1);
     for (const Run& run : paragraph.runs)
         largest = std::max(largest, FontPixels(run.format.size, 1));
-    return Pixels(std::max(spacing / double{kTwipsPerPixel}, largest * kLinePerFont));
+    const double line = std::round(largest * kLinePerFont);
+    if (paragraph.format.lineSpacingIsMultiple && spacing > 0)
+        return Pixels(line * std::clamp(static_cast<double>(spacing) / kWholeLine, 0.5, 5.0));
+    return Pixels(std::max(spacing / double{kTwipsPerPixel}, line));
 }
 
 Style StyleOf(const Paragraph& paragraph)
@@ -170,8 +171,7 @@ Style StyleOf(const Paragraph& paragraph)
     if (format.alignment == ParagraphAlignment::Centre) style.Add("text-align", "center");
     if (format.alignment == ParagraphAlignment::Right) style.Add("text-align", "right");
     if (format.alignment == ParagraphAlignment::Justified) style.Add("text-align", "justify");
-    const bool isOneLine = format.lineSpacingIsMultiple && format.lineSpacing == kWholeLine;
-    if (format.lineSpacing != 0 && !isOneLine) style.Add("line-height", LineHeight(paragraph));
+    style.Add("line-height", LineHeight(paragraph));
     return style;
 }
 
