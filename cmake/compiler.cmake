@@ -6,7 +6,7 @@ include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 
-# One target carries the settings that every part of the house is compiled with.
+# One target carries the settings that every part of the program is compiled with.
 add_library(selvane_settings INTERFACE)
 target_compile_features(selvane_settings INTERFACE cxx_std_20)
 target_compile_options(selvane_settings INTERFACE

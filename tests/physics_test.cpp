@@ -2,6 +2,7 @@
 // positions and velocities, and the simplified read-outs' distance from the truth.
 
 #include "app/number_text.h"
+#include "app/planets.h"
 #include "replay/stage.h"
 
 #include <cmath>
@@ -16,7 +17,6 @@ namespace {
 using replay::Stage;
 
 constexpr long double kPi = std::numbers::pi_v<long double>;
-constexpr MenuId kPlanets[] = {mnMercury, mnVenus, mnEarth, mnMars, mnJupiter};
 constexpr int kOrbitsPerPlanet = 2000;
 
 long double Radian(long double degrees)
@@ -194,8 +194,8 @@ TEST(Physics, ExactReadOutsAgreeWithATwoBodyComputationToTheLastDigit)
 {
     Stage stage;
     Draw draw(20121);
-    for (const MenuId planet : kPlanets) {
-        if (planet != mnEarth) Choose(stage.sim, planet);
+    for (const PlanetRow& planet : PlanetTable()) {
+        if (planet.item != mnEarth) Choose(stage.sim, planet.item);
         for (int turn = 0; turn < kOrbitsPerPlanet && !HasFailure(); ++turn) {
             const SweptOrbit orbit = Enter(stage, draw, turn);
             SCOPED_TRACE(stage.sim.state.PlanetName + ", orbit " + std::to_string(turn));

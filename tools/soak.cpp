@@ -73,8 +73,8 @@ bool LastFrameIsThatOfAFreshStart(Stage& stage)
     Stage fresh;
     fresh.sim.state = stage.sim.state;
     fresh.sim.controls = stage.sim.controls;
-    for (double Picture::*const scale : {&Picture::ScaleLeft, &Picture::ScaleTop,
-                                         &Picture::ScaleWidth, &Picture::ScaleHeight})
+    for (double Picture::*const scale :
+         {&Picture::ScaleLeft, &Picture::ScaleTop, &Picture::ScaleWidth, &Picture::ScaleHeight})
         fresh.sim.picSelvane.*scale = stage.sim.picSelvane.*scale;
     return FrameOf(stage) == FrameOf(fresh);
 }

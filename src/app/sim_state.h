@@ -14,24 +14,31 @@
 
 namespace selvane {
 
-// The active scenario: the program's state.
+// The active scenario: the program's state, and the keys by which it is known.
 enum class Scenario { None, ES1, Geo, Moly, ES2, SunSynch, Tutorial };
+inline constexpr std::string_view kScenarioKeys[] = {"",    "ES1",      "Geo",     "Moly",
+                                                     "ES2", "SunSynch", "Tutorial"};
+
+// The planet travels round the Sun in the middle of the picture: "ES2", "SunSynch".
+constexpr bool IsSunCentred(Scenario scenario)
+{
+    return scenario == Scenario::ES2 || scenario == Scenario::SunSynch;
+}
+
+// The satellite flies round a planet in the middle of the picture: all others but a tutorial.
+constexpr bool SatelliteFlies(Scenario scenario)
+{
+    return scenario != Scenario::None && scenario != Scenario::Tutorial && !IsSunCentred(scenario);
+}
 
 // The pair of inputs that rules the orbit's shape.
 enum class ShapePair { None, Axis, Apsis, E };
+inline constexpr std::string_view kShapePairKeys[] = {"", "Axis", "Apsis", "E"};
 
 // The tutorial scene on show.
 enum class SceneKey { None, Demo0, Demo1, Demo2, Demo3, Demo31, Demo32 };
-
-// The satellite flies round a planet in the middle of the picture: "ES1", "Geo", "Moly".
-bool SatelliteFlies(Scenario scenario);
-
-// The planet travels round the Sun in the middle of the picture: "ES2", "SunSynch".
-bool IsSunCentred(Scenario scenario);
-
-std::string_view Text(Scenario scenario); // "ES1", ...; empty for None
-std::string_view Text(ShapePair pair);    // "Axis", "Apsis", "E"; empty for None
-std::string_view Text(SceneKey key);      // "Demo0", ...; empty for None
+inline constexpr std::string_view kSceneKeys[] = {"",      "Demo0",  "Demo1", "Demo2",
+                                                  "Demo3", "Demo31", "Demo32"};
 
 struct SimState
 {

@@ -4,7 +4,8 @@ namespace selvane {
 
 void CheckDemo(Simulation& sim, MenuId item)
 {
-    for (const MenuId demo : {mnES2, mnSunSynch, mnGeo, mnMoly}) Check(sim, demo, demo == item);
+    for (const MenuRow& row : MenuTable())
+        if (row.under == mnMovies) Check(sim, row.id, row.id == item);
 }
 
 void AssignSettings(Simulation& sim, const DemoSettings& settings)

@@ -3,24 +3,23 @@
 // not shown. The clock of the scene is one angle, HelioDeg.
 #pragma once
 
-#include "demos/demonstration.h"
-
 namespace selvane {
 
-struct SunScene
-{
-    Scenario mode;
-    MenuId item;
-    TimerId timer;
-    DemoSettings settings;
-    std::string_view document;
-};
+struct Simulation;
 
-// Starts the scene. Draws nothing itself, unless the zoom moves: the first tick draws.
-void EnterSunScene(Simulation& sim, const SunScene& scene);
+// The Earth-Sun orbit: the satellite's orbit keeps its direction in space while that of the Sun
+// turns, so the time in the shadow changes through the year. A click on the checked item goes back
+// to the default orbit.
+void mnES2_Click(Simulation& sim);
 
-// A tick: half a degree round the Sun, with the day counter; at 360 it starts again from 0.
-void AdvanceHalfADegree(Simulation& sim);
+// The sun-synchronous orbit: its plane turns with the line to the Sun and keeps its angle to it all
+// year. A click on the checked item goes back to the default orbit; both ways end in play.
+void mnSunSynch_Click(Simulation& sim);
+
+// Ticks of either: half a degree round the Sun, with the day counter; at 360 it starts again from
+// 0.
+void tmrES2_Timer(Simulation& sim);
+void tmrSunSynch_Timer(Simulation& sim);
 
 // Places planet and Sun by HelioDeg and paints the whole picture. The path keeps its size on the
 // screen at every zoom. Writes HelioRad, PlanetX, PlanetY, SunX, SunY.

@@ -41,10 +41,11 @@ std::string HexadecimalDigits(std::string_view bytes)
 std::optional<std::string> SystemInformationPath(Platform& platform)
 {
     std::string path;
-    if (GetKeyValue(platform, kLocalMachine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH", path))
+    if (GetKeyValue(platform, kLocalMachine, "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO", "PATH",
+                    path))
         return path;
-    if (!GetKeyValue(platform, kLocalMachine, "SOFTWARE\\Microsoft\\Shared Tools Location", "MSINFO",
-                     path))
+    if (!GetKeyValue(platform, kLocalMachine, "SOFTWARE\\Microsoft\\Shared Tools Location",
+                     "MSINFO", path))
         return std::nullopt;
     path += "\\MSINFO32.EXE";
     if (!platform.FileExists(path)) return std::nullopt;

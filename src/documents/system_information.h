@@ -1,4 +1,5 @@
-// The machine's system-information tool, which the about box starts. Its place is told by a registry.
+// The machine's system-information tool, which the about box starts. Its place is told by a
+// registry.
 #pragma once
 
 #include "app/platform.h"

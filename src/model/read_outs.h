@@ -1,5 +1,5 @@
-// The read-outs that describe the satellite at this moment: rows 9 to 13, 15 and 16 of lblOutput and
-// the energies. Where the planet travels round the Sun, row 10 counts the days instead.
+// The read-outs that describe the satellite at this moment: rows 9 to 13, 15 and 16 of lblOutput
+// and the energies. Where the planet travels round the Sun, row 10 counts the days instead.
 #pragma once
 
 namespace selvane {

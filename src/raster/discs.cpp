@@ -84,7 +84,8 @@ struct Sector
 
     double DistanceInside(double x, double y) const
     {
-        const double fromSides = std::min(afterStart.DistanceInside(x, y), beforeEnd.DistanceInside(x, y));
+        const double fromSides =
+            std::min(afterStart.DistanceInside(x, y), beforeEnd.DistanceInside(x, y));
         return std::min(disc.DistanceInside(x, y), fromSides + grow);
     }
     Stretch Inset(double y, double distance) const
@@ -104,7 +105,8 @@ struct Edge
 template <typename Shape> void Soften(const Shape& shape, const Edge& edge, int from, int end)
 {
     for (int at = from; at < end; ++at)
-        Blend(edge.row[at], edge.pixel, shape.DistanceInside(at + 0.5 - edge.centreX, edge.y) + kSoft);
+        Blend(edge.row[at], edge.pixel,
+              shape.DistanceInside(at + 0.5 - edge.centreX, edge.y) + kSoft);
 }
 
 template <typename Shape>

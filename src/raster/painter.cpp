@@ -49,7 +49,7 @@ private:
     TextMasks& texts_;
     const double scale_; // device pixels per pixel of the picture
 
-    const UserScale* user_ = nullptr; // that of the stroke in hand
+    const UserScale* user_ = nullptr;            // that of the stroke in hand
     double acrossPerUnit_ = 0, downPerUnit_ = 0; // pixels of the picture
 };
 
@@ -199,7 +199,8 @@ Box Painter::Differences(const Drawing& drawing, TextMasks& texts) const
 {
     std::span<const Stroke> before = painted_.Strokes();
     std::span<const Stroke> now = drawing.Strokes();
-    // As a rule the scales and the texts are those of the drawing before, and the strokes alone tell.
+    // As a rule the scales and the texts are those of the drawing before, and the strokes alone
+    // tell.
     const bool strokesTell = drawing.HasTheSameScalesAndTexts(painted_);
     const auto same = [&](const Stroke& one, const Stroke& other) {
         return strokesTell ? one == other : Same(painted_, one, drawing, other);

@@ -15,8 +15,8 @@ class TextMasks
 public:
     virtual ~TextMasks() = default;
 
-    // The text at that scale, in device pixels per pixel of the picture; its top left corner is that
-    // of the text. Valid until the next call.
+    // The text at that scale, in device pixels per pixel of the picture; its top left corner is
+    // that of the text. Valid until the next call.
     virtual Mask MaskOf(std::string_view text, double scale) = 0;
 };
 

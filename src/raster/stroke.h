@@ -1,6 +1,6 @@
-// Stroke: one drawing call, as a picture was given it, and all that its pixels hang on. Drawing: the
-// strokes of a picture since it was cleared, in their order. Both are plain values: a shell paints
-// them, a test reads them, and two pictures are compared by them.
+// Stroke: one drawing call, as a picture was given it, and all that its pixels hang on. Drawing:
+// the strokes of a picture since it was cleared, in their order. Both are plain values: a shell
+// paints them, a test reads them, and two pictures are compared by them.
 #pragma once
 
 #include "app/colour.h"
@@ -32,11 +32,11 @@ struct UserScale
 struct Stroke
 {
     StrokeKind kind = StrokeKind::Dot;
-    Colour colour;              // of a line, an outline, a dot or a text
+    Colour colour;                // of a line, an outline, a dot or a text
     std::optional<Colour> fill{}; // of circles and sectors; nothing: only their outline is drawn
-    std::uint32_t scale = 0;    // which of the drawing's user scales it was drawn under
-    // User units: x and y of the end of a line, of a centre or of a text's top left corner; then the
-    // radius, or the line's other end.
+    std::uint32_t scale = 0;      // which of the drawing's user scales it was drawn under
+    // User units: x and y of the end of a line, of a centre or of a text's top left corner; then
+    // the radius, or the line's other end.
     std::array<float, 4> at{};
     // Of arcs and sectors: radians counter-clockwise from the +x axis, each at most a full turn in
     // size. A negative one means its size and adds a radius to that end; both of a sector's are.

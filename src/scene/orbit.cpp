@@ -46,7 +46,8 @@ OrbitReading ReadShape(const Simulation& sim)
     const double planetRadius = sim.state.PlanetRadius;
     switch (sim.state.ShapeInput) {
     case ShapePair::Axis:
-        return FromAxes(StrictNumber(sim, txtSMajAxis), StrictNumber(sim, txtSMinAxis), planetRadius);
+        return FromAxes(StrictNumber(sim, txtSMajAxis), StrictNumber(sim, txtSMinAxis),
+                        planetRadius);
     case ShapePair::Apsis:
         return FromApsides(Number(sim, txtPeri), Number(sim, txtApo), planetRadius);
     case ShapePair::E:

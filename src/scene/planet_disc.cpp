@@ -46,7 +46,8 @@ Colour RowColour(double y, double radius)
 void BarePlanet(Simulation& sim)
 {
     SimState& state = sim.state;
-    state.CurPic = state.OrbitMode == Scenario::Tutorial ? PictureId::picDemo : PictureId::picSelvane;
+    state.CurPic =
+        state.OrbitMode == Scenario::Tutorial ? PictureId::picDemo : PictureId::picSelvane;
     Picture& picture = CurrentPicture(sim);
 
     picture.ForeColor = picture.FillColor = state.PlanetDark;

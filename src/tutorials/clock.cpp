@@ -3,6 +3,7 @@
 #include "app/simulation.h"
 #include "app/tolerance.h"
 #include "tutorials/solar_days.h"
+#include "tutorials/step_controls.h"
 #include "tutorials/strokes.h"
 
 #include <array>
@@ -43,8 +44,7 @@ LocalTime TimeAt(std::chrono::sys_seconds instant)
             static_cast<int>(clock.seconds().count())};
 }
 
-void Season(Picture& picture, double x, double y, std::string_view name,
-            std::string_view event)
+void Season(Picture& picture, double x, double y, std::string_view name, std::string_view event)
 {
     picture.Line(x, y, 0, 0, kDarkGrey);
     picture.Circle(x, y, kEarthRadius, kDarkGrey);
@@ -135,6 +135,14 @@ EarthOnDial PlaceOnDial(int daysGone, int daySeconds, double gmtOffset)
     const double hours = std::fabs(gmtOffset) > 24 ? std::fmod(gmtOffset, 24) : gmtOffset;
     earth.spinRad = (-hours * 360 / 24 + earth.spinDeg) * pi / 180;
     return earth;
+}
+
+void Demo32(Simulation& sim)
+{
+    sim.picDemo.Cls();
+    Enable(sim, tmrTime, true);
+    ShowRangeControls(sim);
+    NameRange(sim, "GMT Offset", "The difference between GMT and local time.");
 }
 
 void tmrTime_Timer(Simulation& sim)

@@ -11,6 +11,10 @@ namespace selvane {
 
 struct Simulation;
 
+// Step 32: empties picDemo, starts the clock and makes sclRange the control of the GMT offset. The
+// picture comes with the clock's first tick.
+void Demo32(Simulation& sim);
+
 // Ticks of tmrTime: paints picDemo anew. Reads the clock, txtRange and PlanetTilt. Writes
 // GmtOffset, leaves the scratch of the Demo projection and FillStyle solid.
 void tmrTime_Timer(Simulation& sim);

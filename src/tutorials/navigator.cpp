@@ -5,7 +5,7 @@
 #include "app/number_text.h"
 #include "app/simulation.h"
 #include "tutorials/celestial_sphere.h"
-#include "tutorials/gmt_offset.h"
+#include "tutorials/clock.h"
 #include "tutorials/polar_axes.h"
 #include "tutorials/solar_days.h"
 #include "tutorials/spherical_coordinates.h"

@@ -74,8 +74,7 @@ void EarthNearCircle(Simulation& sim, double x, double y)
 {
     SimState& state = sim.state;
     const Turn turn{state.DemoPosLon, state.DemoPosRoll, state.DemoViewRad};
-    const Projected last =
-        PlotNearHalf(sim.picDemo, kRunningSum, {state.PosRadius, turn}, {x, y});
+    const Projected last = PlotNearHalf(sim.picDemo, kRunningSum, {state.PosRadius, turn}, {x, y});
     state.DemoPosLat = kRunningSum.back().radians + state.Pi / 180; // one step past the end
     StoreProjected(state, last);
 }

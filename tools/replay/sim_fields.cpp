@@ -33,15 +33,15 @@ std::string TextOf(PictureId value)
 }
 std::string TextOf(Scenario value)
 {
-    return std::string(Text(value));
+    return std::string(kScenarioKeys[Index(value)]);
 }
 std::string TextOf(ShapePair value)
 {
-    return std::string(Text(value));
+    return std::string(kShapePairKeys[Index(value)]);
 }
 std::string TextOf(SceneKey value)
 {
-    return std::string(Text(value));
+    return std::string(kSceneKeys[Index(value)]);
 }
 
 template <auto member> constexpr SimField Field(std::string_view name)
