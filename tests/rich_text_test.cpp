@@ -52,6 +52,7 @@ template <std::size_t N> void ExpectTexts(const Case (&cases)[N])
 
 std::string Repeat(std::string_view part, std::size_t times)
 {
+    if (part.size() == 1) return std::string(times, part[0]);
     std::string all;
     all.reserve(part.size() * times);
     while (times-- > 0) all += part;
