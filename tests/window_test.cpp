@@ -19,6 +19,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
+#include <QTextDocument>
 #include <QWheelEvent>
 #include <QWindow>
 #include <clocale>
@@ -446,6 +447,17 @@ TEST_F(WindowTest, AScreenReaderIsToldEveryControl)
     for (const auto* child :
          Find("panel").findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
         EXPECT_TRUE(names.insert(child->objectName()).second) << child->metaObject()->className();
+}
+
+// document_memory counts the bytes.
+TEST_F(WindowTest, OnlyTheDocumentThatIsShownIsKept)
+{
+    const auto documents = [&] { return Find("txtHelp").findChildren<QTextDocument*>().size(); };
+    const qsizetype usual = documents();
+    for (const auto button : {"btnNext2", "btnNext2", "btnBack2", "btnNext2"})
+        QTest::mouseClick(&Find(button), Qt::LeftButton);
+    EXPECT_EQ(Sim().controls.txtHelp.document, "Help(22).rtf");
+    EXPECT_EQ(documents(), usual);
 }
 
 TEST_F(WindowTest, OnlyAReturnFromTheProgramsOwnWindowsStartsOver)

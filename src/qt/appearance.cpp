@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QStyle>
 #include <QThreadPool>
 #include <QToolTip>
@@ -13,6 +14,10 @@ namespace selvane {
 
 namespace {
 
+// The style's cache names its pictures after each window's own palette, so that windows opened
+// again and again would fill the toolkit's 10 MiB. All that one window shows takes a quarter of
+// this.
+constexpr int kStylePicturesKiB = 2048;
 constexpr int kIdleThreadMs = 1000; // the toolkit's, which fill large areas
 
 // Every colour is named, so that a dark desktop changes none of them.
@@ -43,11 +48,12 @@ QPalette LightPalette()
 QtMessageHandler toolkitsOwnHandler = nullptr;
 
 // Remarks of the toolkit about the machine that are no concern of the user's: a root shell has no
-// runtime folder, and screens that nobody sees know no size hints. All others pass.
+// runtime folder, and screens that nobody sees know no size hints and raise no window. All others
+// pass.
 void PassMessage(QtMsgType type, const QMessageLogContext& context, const QString& text)
 {
-    for (const char* const remark : {"QStandardPaths: XDG_RUNTIME_DIR not set",
-                                     "This plugin does not support propagateSizeHints"})
+    for (const char* const remark :
+         {"QStandardPaths: XDG_RUNTIME_DIR not set", "This plugin does not support"})
         if (text.startsWith(remark)) return;
     toolkitsOwnHandler(type, context, text);
 }
@@ -75,6 +81,7 @@ void SetUpApplication(QApplication& application)
     application.setPalette(LightPalette());
     application.setFont(FontOf(kTextPoints));
     QApplication::setCursorFlashTime(0); // a caret that blinks keeps a program at rest awake
+    QPixmapCache::setCacheLimit(kStylePicturesKiB);
     QThreadPool::globalInstance()->setExpiryTimeout(kIdleThreadMs);
     QToolTip::setPalette(LightPalette());
     QToolTip::setFont(FontOf(kTextPoints));

@@ -50,10 +50,12 @@ void HelpPaneWidget::ShowPane(const HelpPane& pane)
 void HelpPaneWidget::MakeDocument()
 {
     const rich_text::Document empty;
-    std::unique_ptr<QTextDocument> made =
-        MakeTextDocument(text_ ? *text_ : empty, font(), zoomPercent_ / 100.0, kPictureWidth);
-    made->setParent(this); // the pane deletes it when the next one comes
-    setDocument(made.release());
+    QTextDocument* const made =
+        MakeTextDocument(text_ ? *text_ : empty, font(), zoomPercent_ / 100.0, kPictureWidth)
+            .release();
+    made->setParent(this);
+    setDocument(made); // the one shown before is not deleted, as it is not the toolkit's own
+    delete std::exchange(document_, made);
 }
 
 // Sizes stand in the text itself, so a zoom makes the document anew; what is read and what is

@@ -47,6 +47,7 @@ private:
     void PaintOutline();
 
     std::shared_ptr<const rich_text::Document> text_;
+    QTextDocument* document_ = nullptr; // made of the text; a child of this widget
     unsigned loads_ = 0;
     int zoomPercent_ = 100;
     int wheel_ = 0; // eighths of a degree not yet acted on

@@ -95,8 +95,8 @@ std::optional<std::string> QtPlatform::ReadDocument(std::string_view name) const
     if (!info.isFile() || info.size() > kLargest) return std::nullopt;
     QFile file(info.filePath());
     if (!file.open(QIODevice::ReadOnly)) return std::nullopt;
-    const QByteArray bytes = file.read(kLargest + 1);
-    if (bytes.size() > kLargest || file.error() != QFileDevice::NoError) return std::nullopt;
+    const QByteArray bytes = file.read(info.size()); // all that is asked for is set aside
+    if (file.error() != QFileDevice::NoError) return std::nullopt;
     return bytes.toStdString();
 }
 
