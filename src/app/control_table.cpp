@@ -172,6 +172,12 @@ constexpr FrameRow kFrames[] = {
   {"Shape1",   {656, 656, 568, 137}, kWhite},
 };
 
+constexpr ShapePairRow kShapePairs[] = {
+  {ShapePair::Apsis, {sclPeri, sclApo},         {txtPeri, txtApo},         btnApsisCalculate, {20, 669, 432, 37}},
+  {ShapePair::E,     {sclPeriE, sclE},          {txtPeriE, txtE},          btnECalculate,     {20, 709, 432, 37}},
+  {ShapePair::Axis,  {sclSMinAxis, sclSMajAxis}, {txtSMinAxis, txtSMajAxis}, btnAxisCalculate, {20, 749, 432, 37}},
+};
+
 // clang-format on
 
 template <typename Row, std::size_t kRows> constexpr bool InOrder(const Row (&rows)[kRows])
@@ -217,6 +223,10 @@ std::span<const MenuRow> MenuTable()
 std::span<const FrameRow> FrameTable()
 {
     return kFrames;
+}
+std::span<const ShapePairRow> ShapePairTable()
+{
+    return kShapePairs;
 }
 
 } // namespace selvane

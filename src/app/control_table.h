@@ -6,7 +6,10 @@
 
 #include "app/colour.h"
 #include "app/control_ids.h"
+#include "app/sim_state.h"
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -97,9 +100,26 @@ struct FrameRow
     std::optional<Colour> fill;
 };
 
+// One way to give the orbit its shape: two bars with their fields and the button that makes the
+// pair rule. While it rules, a frame of kRulingColour, one pixel wide, stands inside the outer edge
+// of the place.
+struct ShapePairRow
+{
+    ShapePair pair;
+    std::array<ScrollBarId, 2> bars;
+    std::array<FieldId, 2> fields;
+    ButtonId button;
+    Place frame;
+
+    bool Has(ScrollBarId bar) const { return std::ranges::count(bars, bar) > 0; }
+    bool Has(FieldId field) const { return std::ranges::count(fields, field) > 0; }
+    bool Has(ButtonId other) const { return button == other; }
+};
+
 inline constexpr std::string_view kApplicationTitle = "Selvane";
 inline constexpr Colour kWindowColour{224, 224, 224};
 inline constexpr Place kWindowOuter{0, 0, 1254, 887}; // outer size and place on the screen
+inline constexpr Colour kRulingColour{96, 136, 192};
 inline constexpr int kClientWidth = 1243, kClientHeight = 827;
 inline constexpr Place kHelpPane{824, 352, 400, 256}; // txtHelp
 inline constexpr int kMarkerSize = 5;                 // lblSat is a square
@@ -114,5 +134,6 @@ std::span<const LabelRow> LabelTable();
 std::span<const TimerRow> TimerTable();
 std::span<const MenuRow> MenuTable();
 std::span<const FrameRow> FrameTable();
+std::span<const ShapePairRow> ShapePairTable(); // as they lie, from top to bottom
 
 } // namespace selvane

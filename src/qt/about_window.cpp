@@ -1,6 +1,8 @@
 #include "qt/about_window.h"
 
 #include "program/program.h"
+#include "program/spoken_text.h"
+#include "qt/accessibility.h"
 #include "qt/appearance.h"
 #include "qt/application_icon.h"
 #include "qt/dispatch.h"
@@ -19,7 +21,6 @@ QLabel* MakeIcon(const AboutRow& row, QWidget* parent)
     auto* icon = new QLabel(parent);
     icon->setPixmap(ApplicationIcon().pixmap(QSize(row.place.width, row.place.height),
                                              parent->devicePixelRatioF()));
-    icon->setAccessibleName(AboutFrame::tr("The program's icon: a planet and its satellite"));
     return icon;
 }
 
@@ -69,14 +70,10 @@ void AboutFrame::BuildControl(const AboutRow& row)
         button->setDefault(row.control == cmdOK);
         connect(button, &QPushButton::clicked, this, press);
         made = button;
-        made->setAccessibleDescription(row.control == cmdOK ? "Closes this window."
-                                                            : "Starts the desktop's own tool.");
     } else if (row.underline == Underline::Yes) {
         auto* link = new LinkLabel(TextOf(row.text), row.place, this);
         connect(link, &LinkLabel::clicked, this, press);
         made = link;
-        made->setAccessibleDescription(row.control == LblWebsite ? "Opens the website."
-                                                                 : "Writes a mail.");
     } else {
         QLabel* label = MakeText(row, this);
         if (row.control == lblTitle) lblTitle_ = label;
@@ -95,6 +92,8 @@ void AboutFrame::Mirror(const Simulation& sim)
     lblTitle_->setText(TextOf(record.lblTitle));
     lblVersion_->setText(TextOf(record.lblVersion));
     lblDisclaimer_->setText(Lines(record.lblDisclaimer));
+    for (const AboutRow& row : AboutTable())
+        SetSpoken(*findChild<QWidget*>(TextOf(row.name)), Spoken(sim, row.control));
 }
 
 void AboutFrame::reject()

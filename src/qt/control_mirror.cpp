@@ -1,6 +1,8 @@
 #include "qt/control_mirror.h"
 
 #include "app/tolerance.h"
+#include "program/spoken_text.h"
+#include "qt/accessibility.h"
 #include "qt/appearance.h"
 #include "qt/face_button.h"
 #include "qt/help_pane_widget.h"
@@ -60,7 +62,10 @@ void ControlMirror::Pass(const Simulation& sim)
     MatchButtons(controls);
     MatchMenu(controls);
     MatchMarker(sim);
-    widgets_.txtHelp->ShowPane(controls.txtHelp);
+    MatchRulingPair(sim.state.ShapeInput);
+    MatchSpoken(sim);
+    if (widgets_.txtHelp->ShowPane(controls.txtHelp))
+        SetSpoken(*widgets_.txtHelp, SpokenPane(sim, WindowId::Main));
     widgets_.picSelvane->Show(sim.picSelvane.drawing);
     widgets_.picDemo->Show(sim.picDemo.drawing);
 }
@@ -99,7 +104,6 @@ void ControlMirror::MatchLabels(const Controls& controls)
         const LabelWidget& label = widgets_.labels[at];
         if (labels_[at].caption != record.caption) {
             if (label.caption) label.caption->SetCaption(TextOf(record.caption));
-            NameAfter(static_cast<LabelId>(at), record.caption);
             labels_[at].caption = record.caption;
         }
         if (labels_[at].toolTip != record.toolTip) {
@@ -107,16 +111,6 @@ void ControlMirror::MatchLabels(const Controls& controls)
             labels_[at].toolTip = record.toolTip;
         }
         MatchVisibility(*label.Widget(), record.visible);
-    }
-}
-
-void ControlMirror::NameAfter(LabelId label, const std::string& caption)
-{
-    for (const FieldRow& row : FieldTable()) {
-        const ScrollBarRow& bar = ScrollBarTable()[Index(row.bar)];
-        if (bar.caption != label) continue;
-        widgets_.bars[Index(row.bar)]->setAccessibleName(SpokenNameOf(bar, caption));
-        widgets_.fields[Index(row.id)]->setAccessibleName(SpokenNameOf(bar, caption));
     }
 }
 
@@ -161,6 +155,25 @@ void ControlMirror::MatchMarker(const Simulation& sim)
         markerColour_ = record.back;
     }
     MatchVisibility(marker, record.visible && record.left.has_value());
+}
+
+void ControlMirror::MatchRulingPair(ShapePair pair)
+{
+    const auto rows = ShapePairTable();
+    const auto row = std::ranges::find(rows, pair, &ShapePairRow::pair);
+    MatchVisibility(*widgets_.rulingFrame, row != rows.end());
+    if (row != rows.end() && widgets_.rulingFrame->geometry() != RectOf(row->frame))
+        widgets_.rulingFrame->setGeometry(RectOf(row->frame));
+}
+
+void ControlMirror::MatchSpoken(const Simulation& sim)
+{
+    for (const ScrollBarRow& row : ScrollBarTable())
+        SetSpoken(*widgets_.bars[Index(row.id)], Spoken(sim, row.id));
+    for (const FieldRow& row : FieldTable())
+        SetSpoken(*widgets_.fields[Index(row.id)], Spoken(sim, row.id));
+    for (const ShapePairRow& row : ShapePairTable())
+        SetSpoken(*widgets_.buttons[Index(row.button)], Spoken(sim, row.button));
 }
 
 } // namespace selvane

@@ -21,7 +21,8 @@ private:
     void MatchButtons(const Controls& controls);
     void MatchMenu(const Controls& controls);
     void MatchMarker(const Simulation& sim);
-    void NameAfter(LabelId label, const std::string& caption);
+    void MatchRulingPair(ShapePair pair);
+    void MatchSpoken(const Simulation& sim);
 
     const ControlWidgets widgets_;
     // What the widgets show: texts are compared as the records hold them.

@@ -2,6 +2,8 @@
 
 #include "app/handlers.h"
 #include "program/program.h"
+#include "program/spoken_text.h"
+#include "qt/accessibility.h"
 #include "qt/appearance.h"
 #include "qt/dispatch.h"
 #include "qt/face_button.h"
@@ -10,7 +12,6 @@
 #include "qt/menus.h"
 #include "qt/number_line.h"
 #include "qt/picture_widget.h"
-#include "qt/spoken_roles.h"
 #include "qt/value_bar.h"
 
 #include <QFrame>
@@ -44,10 +45,12 @@ public:
     void Build()
     {
         for (const FrameRow& row : FrameTable()) AddFrame(row);
+        AddRulingFrame();
+        const Simulation& sim = door_.Sim();
         widgets_.picSelvane = new PictureWidget(kPicSelvane, &panel_);
-        widgets_.picSelvane->setAccessibleName("Orbit");
+        widgets_.picSelvane->SetWords([&sim] { return SpokenMainPicture(sim); });
         widgets_.picDemo = new PictureWidget(kPicDemo, &panel_);
-        widgets_.picDemo->setAccessibleName("Tutorial picture");
+        widgets_.picDemo->SetWords([&sim] { return SpokenTutorialPicture(sim); });
         for (const LabelRow& row : LabelTable()) AddLabel(row);
         AddMarker();
         for (const ScrollBarRow& row : ScrollBarTable()) AddBar(row);
@@ -65,13 +68,27 @@ private:
         widget.setGeometry(RectOf(row.place));
     }
 
-    void AddFrame(const FrameRow& row)
+    QFrame* MakeFrame(const QColor& colour)
     {
         auto* const frame = new QFrame(&panel_);
-        Place(*frame, row);
         frame->setFrameStyle(static_cast<int>(QFrame::Box) | static_cast<int>(QFrame::Plain));
         QPalette colours;
-        colours.setColor(QPalette::WindowText, kFrameColour);
+        colours.setColor(QPalette::WindowText, colour);
+        frame->setPalette(colours);
+        return frame;
+    }
+
+    void AddRulingFrame()
+    {
+        widgets_.rulingFrame = MakeFrame(ColourOf(kRulingColour));
+        widgets_.rulingFrame->setObjectName("rulingFrame");
+    }
+
+    void AddFrame(const FrameRow& row)
+    {
+        QFrame* const frame = MakeFrame(kFrameColour);
+        Place(*frame, row);
+        QPalette colours = frame->palette();
         if (row.fill) colours.setColor(QPalette::Window, ColourOf(*row.fill));
         frame->setPalette(colours);
         frame->setAutoFillBackground(row.fill.has_value());
@@ -92,15 +109,14 @@ private:
         }
         label.Widget()->setObjectName(TextOf(row.name));
         label.Widget()->setToolTip(TextOf(row.toolTip));
-        if (row.id == lblReturnToTutorial)
-            label.Widget()->setAccessibleDescription("Shows the tutorial's explanation again.");
+        if (label.link) SetSpoken(*label.link, Spoken(door_.Sim(), row.id));
     }
 
     void AddMarker()
     {
         widgets_.lblSat = new QWidget(widgets_.picSelvane);
         widgets_.lblSat->setObjectName("lblSat");
-        widgets_.lblSat->setAccessibleName("Satellite");
+        SetSpoken(*widgets_.lblSat, SpokenMarker());
         widgets_.lblSat->resize(kMarkerSize, kMarkerSize);
         widgets_.lblSat->setAutoFillBackground(true);
         widgets_.lblSat->hide();
@@ -117,10 +133,6 @@ private:
         bar->setSingleStep(row.smallChange);
         bar->setPageStep(row.largeChange);
         bar->setValue(row.value);
-        const LabelRow& caption = LabelTable()[Index(row.caption)];
-        bar->setAccessibleName(SpokenNameOf(row, caption.caption));
-        const bool pans = row.id == sclLR || row.id == sclUD;
-        bar->setAccessibleDescription(pans ? "Moves the picture." : TextOf(caption.toolTip));
         QObject::connect(
             bar, &QAbstractSlider::valueChanged, &door_, [door = &door_, id = row.id](int value) {
                 door->Act(WindowId::Main, [id, value](Simulation& sim) { Scroll(sim, id, value); });
@@ -134,9 +146,6 @@ private:
         Place(*field, row);
         field->setText(TextOf(row.text));
         const ScrollBarRow& bar = ScrollBarTable()[Index(row.bar)];
-        const LabelRow& caption = LabelTable()[Index(bar.caption)];
-        field->setAccessibleName(SpokenNameOf(bar, caption.caption));
-        field->SetPurpose(TextOf(caption.toolTip));
         widgets_.labels[Index(bar.caption)].caption->setBuddy(field);
         // Assistive technology changes a text without editing it.
         QObject::connect(field, &QLineEdit::textChanged, &door_,
@@ -155,6 +164,7 @@ private:
         widgets_.buttons[Index(row.id)] = button;
         Place(*button, row);
         button->setVisible(row.visible);
+        SetSpoken(*button, Spoken(door_.Sim(), row.id));
         QObject::connect(button, &QAbstractButton::clicked, &door_, [door = &door_, id = row.id] {
             door->Act(WindowId::Main, [id](Simulation& sim) { Click(sim, id); });
         });
@@ -166,8 +176,6 @@ private:
         widgets_.txtHelp = pane;
         pane->setObjectName("txtHelp");
         pane->setGeometry(RectOf(kHelpPane));
-        pane->setAccessibleName("Explanation");
-        pane->setAccessibleDescription("Explains what the pictures show.");
         QObject::connect(pane, &HelpPaneWidget::linkClicked, &door_,
                          [door = &door_](const QString& link) {
                              door->Act(WindowId::Main, [to = link.toStdString()](Simulation& sim) {
@@ -211,7 +219,7 @@ QWidget* LabelWidget::Widget() const
 
 ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door)
 {
-    TeachSpokenRoles(); // a control that has been spoken of keeps the role it had then
+    InstallAccessibleRoles();
     ControlWidgets widgets;
     ControlBuilder(widgets, panel, door).Build();
     widgets.menu = BuildMenus(menuBar, door);
@@ -221,13 +229,6 @@ ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door)
 std::span<const std::string_view> ReadingOrder()
 {
     return kReadingOrder;
-}
-
-QString SpokenNameOf(const ScrollBarRow& row, std::string_view caption)
-{
-    if (row.id == sclLR) return "Pan left and right";
-    if (row.id == sclUD) return "Pan up and down";
-    return TextOf(caption);
 }
 
 } // namespace selvane

@@ -44,6 +44,7 @@ struct ControlWidgets
     std::array<QAction*, kMenuCount> menu{};
     PictureWidget* picSelvane = nullptr;
     PictureWidget* picDemo = nullptr;
+    QWidget* rulingFrame = nullptr; // round the pair that gives the orbit its shape
     QWidget* lblSat = nullptr;
     HelpPaneWidget* txtHelp = nullptr;
 };
@@ -55,8 +56,5 @@ ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door);
 // The names of all controls that take the focus, in reading order: the main picture and the row
 // below it, the two panels, then the tutorials' column.
 std::span<const std::string_view> ReadingOrder();
-
-// What a bar and the field beside it are called; follows the caption of their label.
-QString SpokenNameOf(const ScrollBarRow& row, std::string_view caption);
 
 } // namespace selvane

@@ -14,50 +14,6 @@ namespace {
 
 constexpr double kGlyphWidth = 12, kGlyphHeight = 18;
 
-QString SpokenName(const ButtonRow& row)
-{
-    switch (row.glyph) {
-    case Glyph::StepBack:
-        return row.id == btnBack2 ? "Back" : "Step back";
-    case Glyph::Pause:
-        return "Pause";
-    case Glyph::Play:
-        return "Play";
-    case Glyph::StepForward:
-        return row.id == btnNext2 ? "Next" : "Step forward";
-    case Glyph::None:
-        break;
-    }
-    return row.caption.empty() ? "Blank" : TextOf(row.caption);
-}
-
-QString SpokenPurpose(ButtonId button)
-{
-    switch (button) {
-    case btnApsisCalculate:
-        return "Makes the orbit from its periapsis and apoapsis.";
-    case btnECalculate:
-        return "Makes the orbit from its periapsis and eccentricity.";
-    case btnAxisCalculate:
-        return "Makes the orbit from its two axes.";
-    case btnReverse:
-        return "Moves the scene one step back.";
-    case btnPause:
-        return "Stops the motion.";
-    case btnPlay:
-        return "Lets the motion go on.";
-    case btnAdvance:
-        return "Moves the scene one step forward.";
-    case btnBack2:
-        return "Shows the tutorial's step before this one.";
-    case btnNext2:
-        return "Shows the tutorial's next step.";
-    case Command1:
-        break;
-    }
-    return "Fills the corner between two bars; does nothing.";
-}
-
 void AddTriangle(QPainterPath& path, double base, double tip)
 {
     path.moveTo(base, 0);
@@ -107,8 +63,6 @@ FaceButton::FaceButton(const ButtonRow& row, QWidget* parent)
     setFont(FontOf(kCaptionPoints));
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
-    setAccessibleName(SpokenName(row));
-    setAccessibleDescription(SpokenPurpose(row.id));
 }
 
 void FaceButton::keyPressEvent(QKeyEvent* event)

@@ -11,7 +11,6 @@ namespace selvane {
 class FaceButton : public QPushButton
 {
 public:
-    // A picture button is called by what it does.
     FaceButton(const ButtonRow& row, QWidget* parent);
 
 protected:

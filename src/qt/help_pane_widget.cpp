@@ -1,6 +1,7 @@
 #include "qt/help_pane_widget.h"
 
 #include "app/controls.h"
+#include "qt/accessibility.h"
 #include "qt/appearance.h"
 #include "qt/focus_frame.h"
 #include "qt/rich_text_document.h"
@@ -32,19 +33,21 @@ HelpPaneWidget::HelpPaneWidget(QWidget* parent) : QTextBrowser(parent)
     setUndoRedoEnabled(false);
     setFrameStyle(QFrame::Box | QFrame::Plain);
     setLineWidth(kOutline);
-    setAccessibleName(tr("Help"));
     setFont(FontOf(kBasePoints));
     connect(this, &QTextBrowser::anchorClicked, this, &HelpPaneWidget::Follow);
 }
 
-void HelpPaneWidget::ShowPane(const HelpPane& pane)
+bool HelpPaneWidget::ShowPane(const HelpPane& pane)
 {
-    if (pane.text == text_ && pane.loads == loads_) return;
+    if (pane.text == text_ && pane.loads == loads_) return false;
+    const QString before = toPlainText();
     text_ = pane.text;
     loads_ = pane.loads;
     MakeDocument();
     verticalScrollBar()->setValue(0);
     horizontalScrollBar()->setValue(0);
+    AnnounceNewText(*this, before);
+    return true;
 }
 
 void HelpPaneWidget::MakeDocument()

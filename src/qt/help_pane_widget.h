@@ -19,9 +19,9 @@ class HelpPaneWidget : public QTextBrowser
 public:
     explicit HelpPaneWidget(QWidget* parent = nullptr);
 
-    // Makes the widget match the record. A new load starts at the top; the same one, shown again,
-    // touches nothing.
-    void ShowPane(const HelpPane& pane);
+    // Makes the widget match the record. A new load starts at the top and is announced; the same
+    // one, shown again, touches nothing. True where it is new.
+    bool ShowPane(const HelpPane& pane);
 
     int ZoomPercent() const { return zoomPercent_; } // 50 to 300
 

@@ -5,7 +5,6 @@
 #include "qt/dispatch.h"
 #include "qt/menus.h"
 #include "qt/picture_widget.h"
-#include "qt/picture_words.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -31,12 +30,6 @@ public:
 
     QSize sizeHint() const override { return {kClientWidth, kClientHeight}; }
 };
-
-void SetDescription(QWidget& widget, const std::string& words)
-{
-    const QString text = TextOf(words);
-    if (widget.accessibleDescription() != text) widget.setAccessibleDescription(text);
-}
 
 } // namespace
 
@@ -105,10 +98,10 @@ void MainWindow::ActivateMenuBar()
     for (QKeyEvent* const event : {&press, &release}) QCoreApplication::sendEvent(this, event);
 }
 
-void MainWindow::Describe(const Simulation& sim)
+void MainWindow::AnnouncePictures()
 {
-    SetDescription(*widgets_.picSelvane, DescribeMainPicture(sim));
-    SetDescription(*widgets_.picDemo, DescribeTutorialPicture(sim));
+    widgets_.picSelvane->AnnounceWords();
+    widgets_.picDemo->AnnounceWords();
 }
 
 void MainWindow::FitToScreen()

@@ -20,8 +20,8 @@ public:
 
     void Match(const Simulation& sim);
 
-    // What the pictures show, in words for a screen reader.
-    void Describe(const Simulation& sim);
+    // Assistive technology hears of it where the pictures show something else.
+    void AnnouncePictures();
 
     // The size as laid out, but no larger than the screen has room for.
     void FitToScreen();

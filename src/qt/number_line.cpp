@@ -13,19 +13,12 @@ NumberLine::NumberLine(QWidget* parent) : QLineEdit(parent)
     setFont(FontOf(kTextPoints));
 }
 
-void NumberLine::SetPurpose(const QString& purpose)
-{
-    purpose_ = purpose;
-    setAccessibleDescription(purpose);
-}
-
 void NumberLine::SetFault(const QString& why)
 {
     QPalette colours;
     if (!why.isEmpty()) colours.setColor(QPalette::Text, kFaultColour);
     setPalette(colours);
     setToolTip(why);
-    setAccessibleDescription(why.isEmpty() ? purpose_ : why);
 }
 
 void NumberLine::paintEvent(QPaintEvent* event)

@@ -11,17 +11,11 @@ class NumberLine : public QLineEdit
 public:
     explicit NumberLine(QWidget* parent);
 
-    // What the field is for, spoken while there is no fault.
-    void SetPurpose(const QString& purpose);
-
-    // Why the text describes nothing; empty when it does. Shown by colour and tool tip, and spoken.
+    // Why the text describes nothing; empty when it does. Shown by colour and tool tip.
     void SetFault(const QString& why);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
-
-private:
-    QString purpose_;
 };
 
 } // namespace selvane

@@ -2,6 +2,7 @@
 
 #include "qt/appearance.h"
 
+#include <QAccessible>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -23,6 +24,14 @@ void PictureWidget::Show(const raster::Drawing& drawing)
     const QRectF changed(QPointF(across.first, down.first) / scale,
                          QPointF(across.end, down.end) / scale);
     update(QRegion(changed.toAlignedRect()) - covered_);
+}
+
+void PictureWidget::AnnounceWords()
+{
+    if (!QAccessible::isActive() || announced_ == Spoken()) return;
+    announced_ = Spoken();
+    QAccessibleEvent event(this, QAccessible::DescriptionChanged);
+    QAccessible::updateAccessibility(&event);
 }
 
 QImage PictureWidget::Image() const

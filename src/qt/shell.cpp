@@ -35,7 +35,7 @@ Shell::Shell(Platform& platform)
     connect(&door_, &Dispatch::settled, this, &Shell::Match);
     connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
     window_.Match(Sim());
-    window_.Describe(Sim());
+    window_.AnnouncePictures();
 }
 
 void Shell::Show()
@@ -54,7 +54,7 @@ void Shell::Show()
 void Shell::Match(Dispatch::After after)
 {
     window_.Match(Sim());
-    if (after == Dispatch::After::Actions) window_.Describe(Sim());
+    if (after == Dispatch::After::Actions) window_.AnnouncePictures();
     timers_.Match(Sim().controls.timers);
     keeper_.Match(Sim());
 }

@@ -1,6 +1,8 @@
 #include "qt/user_guide_window.h"
 
 #include "program/program.h"
+#include "program/spoken_text.h"
+#include "qt/accessibility.h"
 #include "qt/appearance.h"
 #include "qt/dispatch.h"
 #include "qt/help_pane_widget.h"
@@ -25,7 +27,7 @@ void UserGuideFrame::BuildTopics()
     for (const TopicRow& row : TopicTable()) {
         auto* label = new LinkLabel(TextOf(row.caption), row.place, this);
         label->setObjectName(TextOf(row.name));
-        label->setAccessibleDescription("Shows this topic.");
+        SetSpoken(*label, Spoken(row.topic));
         connect(label, &LinkLabel::clicked, this, [this, topic = row.topic] {
             door_.Act(WindowId::UserGuide, [topic](Simulation& sim) { ClickTopic(sim, topic); });
         });
@@ -36,8 +38,6 @@ void UserGuideFrame::BuildPane()
 {
     txtHelp_ = new HelpPaneWidget(this); // after the topics, also in the tab order
     txtHelp_->setObjectName("txtHelp");
-    txtHelp_->setAccessibleName(tr("User guide"));
-    txtHelp_->setAccessibleDescription("The text of the topic.");
     txtHelp_->move(kUserGuidePane.left, kUserGuidePane.top);
     connect(txtHelp_, &HelpPaneWidget::linkClicked, this, [this](const QString& link) {
         door_.Act(WindowId::UserGuide, [to = link.toStdString()](Simulation& sim) {
@@ -48,7 +48,8 @@ void UserGuideFrame::BuildPane()
 
 void UserGuideFrame::Mirror(const Simulation& sim)
 {
-    txtHelp_->ShowPane(sim.windows.frmUserGuide.txtHelp);
+    if (txtHelp_->ShowPane(sim.windows.frmUserGuide.txtHelp))
+        SetSpoken(*txtHelp_, SpokenPane(sim, WindowId::UserGuide));
 }
 
 // The frame comes and goes without a change of size, so every sign of it counts.

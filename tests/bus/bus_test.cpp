@@ -1,5 +1,6 @@
 // Drives the program by the accessibility bus alone: what a screen reader is told, and what its
 // user can do. Each test starts the program anew; run.sh gives it a desktop.
+#include <algorithm>
 #include <atspi/atspi.h>
 #include <csignal>
 #include <functional>
@@ -123,6 +124,71 @@ template <typename Condition> bool ComesTrue(Condition condition)
     return false;
 }
 
+// What a screen reader hears of without asking, as "WHO inserted: TEXT", "WHO named: TITLE" or "WHO
+// described"; a text's first line is enough.
+class Listener
+{
+public:
+    Listener()
+    {
+        for (const char* const kind : kKinds)
+            atspi_event_listener_register(listener_.get(), kind, nullptr);
+    }
+    ~Listener()
+    {
+        for (const char* const kind : kKinds)
+            atspi_event_listener_deregister(listener_.get(), kind, nullptr);
+    }
+    Listener(const Listener&) = delete;
+    Listener& operator=(const Listener&) = delete;
+
+    bool Hears(const std::string& news, int milliseconds = 30000)
+    {
+        constexpr int kPauseMs = 20;
+        for (int waited = 0; waited < milliseconds; waited += kPauseMs) {
+            while (g_main_context_iteration(nullptr, FALSE)) {
+            }
+            if (std::ranges::find(heard_, news) != heard_.end()) return true;
+            g_usleep(kPauseMs * 1000);
+        }
+        return false;
+    }
+    void Forget()
+    {
+        Hears("", 100);
+        heard_.clear();
+    }
+
+private:
+    static constexpr const char* kKinds[] = {"object:text-changed:insert",
+                                             "object:property-change:accessible-name",
+                                             "object:property-change:accessible-description"};
+
+    static void Hear(AtspiEvent* event, void* self)
+    {
+        const std::string kind = event->type;
+        std::string who = Taken(atspi_accessible_get_name(event->source, nullptr)), what;
+        const std::size_t title = who.find(": ");
+        if (kind.starts_with("object:text-changed"))
+            what = " inserted: " + FirstLine(event->any_data);
+        else if (kind.ends_with("name") && title != who.npos)
+            what = " named: " + who.substr(title + 2);
+        else if (kind.ends_with("description"))
+            what = " described";
+        static_cast<Listener*>(self)->heard_.push_back(who.substr(0, title) + what);
+        g_boxed_free(ATSPI_TYPE_EVENT, event);
+    }
+
+    static std::string FirstLine(const GValue& value)
+    {
+        const std::string text = G_VALUE_HOLDS_STRING(&value) ? g_value_get_string(&value) : "";
+        return text.substr(0, text.find('\n'));
+    }
+
+    Held<AtspiEventListener> listener_ = Hold(atspi_event_listener_new(Hear, this, nullptr));
+    std::vector<std::string> heard_;
+};
+
 class Bus : public testing::Test
 {
 protected:
@@ -199,10 +265,13 @@ protected:
     Control Starting(const std::string& start) const
     {
         std::vector<Control> found;
-        Collect(
-            *application_, [&](const Control& one) { return one.Name().starts_with(start); },
-            found);
-        EXPECT_FALSE(found.empty()) << "no read-out starts with " << start;
+        ComesTrue([&] {
+            Collect(
+                *application_, [&](const Control& one) { return one.Name().starts_with(start); },
+                found);
+            return !found.empty();
+        });
+        EXPECT_FALSE(found.empty()) << "nothing is called " << start;
         return found.empty() ? Control(nullptr) : found[0];
     }
     static void ExpectSoon(const std::function<std::string()>& now, const Check& wanted)
@@ -299,6 +368,8 @@ TEST_F(Bus, AnOrbitIsSetByBarsByFieldsAndByButtons)
 TEST_F(Bus, TheFlightStopsAndIsStepped)
 {
     ExpectReadOut("Eclipse = 22 Min (18 %)");
+    ExpectSoon([&] { return The(ATSPI_ROLE_IMAGE, "Orbit").Description(); },
+               HasSubstr("The satellite is at latitude")); // in flight too
     PressButton("Pause");
     EXPECT_TRUE(ComesTrue([&] { return The(ATSPI_ROLE_PUSH_BUTTON, "Play").IsShown(); }));
     EXPECT_FALSE(The(ATSPI_ROLE_PUSH_BUTTON, "Pause").IsShown());
@@ -334,7 +405,7 @@ TEST_F(Bus, TheFlightStopsAndIsStepped)
 
 TEST_F(Bus, EachDemonstrationStartsFromTheMenu)
 {
-    const Control pane = The(ATSPI_ROLE_LABEL, "Explanation"), period = Starting("Period = ");
+    const Control pane = Starting("Explanation"), period = Starting("Period = ");
     const struct
     {
         std::string item, document, minutes;
@@ -352,10 +423,35 @@ TEST_F(Bus, EachDemonstrationStartsFromTheMenu)
     }
 }
 
+// The listener hears of each new text with the title of its document, of what the pictures show
+// after an action, and of no tick.
+TEST_F(Bus, ANewTextIsAnnouncedWithItsTitle)
+{
+    Listener listener;
+    PressButton("Next");
+    EXPECT_TRUE(listener.Hears("Explanation inserted: Reference frames: three axes"));
+    EXPECT_TRUE(listener.Hears("Explanation named: Reference frames: three axes"));
+    EXPECT_TRUE(listener.Hears("Tutorial picture described"));
+    Press(ATSPI_ROLE_MENU_ITEM, "Molniya Orbit");
+    EXPECT_TRUE(listener.Hears("Explanation inserted: Molniya orbit"));
+    EXPECT_TRUE(listener.Hears("Explanation named: Molniya orbit"));
+    Press(ATSPI_ROLE_MENU_ITEM, "User Guide");
+    EXPECT_TRUE(listener.Hears("User guide inserted: Welcome to Selvane"));
+    Press(ATSPI_ROLE_LINK, "Orbit Shape");
+    EXPECT_TRUE(listener.Hears("User guide inserted: Orbit Shape"));
+    EXPECT_TRUE(listener.Hears("User guide named: Orbit Shape"));
+
+    const Control image = The(ATSPI_ROLE_IMAGE, "Orbit");
+    const std::string before = image.Description();
+    listener.Forget();
+    ExpectSoon([&] { return image.Description(); }, testing::Ne(before)); // flies on
+    EXPECT_FALSE(listener.Hears("Orbit described", 500));
+}
+
 TEST_F(Bus, BothTutorialsAreWalkedThereAndBack)
 {
     const Control image = The(ATSPI_ROLE_IMAGE, "Tutorial picture");
-    const Control pane = The(ATSPI_ROLE_LABEL, "Explanation");
+    const Control pane = Starting("Explanation");
     const auto walk = [&](const std::string& tutorial, const std::vector<std::string>& headings) {
         const std::size_t last = headings.size() - 1;
         for (std::size_t press = 0; press <= 2 * last; ++press) {
@@ -380,7 +476,7 @@ TEST_F(Bus, BothTutorialsAreWalkedThereAndBack)
 TEST_F(Bus, TheUserGuideIsReadAndTheAboutBoxCloses)
 {
     Press(ATSPI_ROLE_MENU_ITEM, "User Guide");
-    const Control pane = The(ATSPI_ROLE_LABEL, "User guide");
+    const Control pane = Starting("User guide: ");
     const struct
     {
         std::string topic, heading;
