@@ -140,7 +140,7 @@ TEST(Replay, ChangesAreShownAgainstTheLastDump)
     EXPECT_NE(moved.find("\nsclRot.value=7\n"), std::string::npos);
     EXPECT_NE(moved.find("\npicSelvane.digest="), std::string::npos);
     EXPECT_EQ(moved.find("sclRot.min"), std::string::npos);
-    EXPECT_EQ(DumpOf(outcome.output, 2), "@ 2 type txtPeri a\\b\rc\ntxtPeri.text=a\\\\b\\rc\n");
+    EXPECT_EQ(DumpOf(outcome.output, 2), "@ 2 type txtPeri a\\b\rc\ntxtPeri.text=a\\\\b\n");
     EXPECT_EQ(DumpOf(outcome.output, 3), "@ 3 click btnPlay\n! btnPlay is hidden\n");
     EXPECT_EQ(DumpOf(outcome.output, 4),
               "@ 4 menu mnAbout\nabout.caption=About Selvane\nabout.title=Selvane\n"

@@ -11,6 +11,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QBackingStore>
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
@@ -265,6 +266,21 @@ TEST_F(WindowTest, TicksLeaveTheFieldThatIsBeingTypedInAlone)
 
     QTest::keyClick(&Bar(sclApo), Qt::Key_Right);
     EXPECT_EQ(field.text(), "3300") << "a bar rewrites what was typed";
+}
+
+TEST_F(WindowTest, OnlyTheFirstLineOfWhatIsPastedCounts)
+{
+    for (const char* const text : {"12\n34\n56", "12\r34", "12\t34", "\n12\x01\x02"}) {
+        QLineEdit& field = Field(txtARGP);
+        field.selectAll();
+        QApplication::clipboard()->setText(text);
+        QTest::keyClick(&field, Qt::Key_V, Qt::ControlModifier);
+        Ticks(1);
+        EXPECT_EQ(field.text(), "12");
+        EXPECT_EQ(Text(Sim(), txtARGP), "12");
+        EXPECT_EQ(Find<QLabel>("lblOutput(8)").text(), "ARGP = 12 Degrees");
+        EXPECT_EQ(Sim().state.ARGP, 102);
+    }
 }
 
 TEST_F(WindowTest, AFieldThatDescribesNoOrbitSaysSoUntilItDoes)

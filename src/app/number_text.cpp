@@ -11,6 +11,18 @@ namespace selvane {
 
 namespace {
 
+// The bytes of the control character or line break that stands there; 0 where none does.
+std::size_t LineEnd(std::string_view text, std::size_t at)
+{
+    const auto byte = [&](std::size_t offset) {
+        return at + offset < text.size() ? static_cast<unsigned char>(text[at + offset]) : ' ';
+    };
+    if (byte(0) < 0x20 || byte(0) == 0x7F) return 1;
+    if (byte(0) == 0xC2 && byte(1) >= 0x80 && byte(1) < 0xA0) return 2;
+    const bool separator = byte(0) == 0xE2 && byte(1) == 0x80 && (byte(2) & ~1) == 0xA8;
+    return separator ? 3 : 0; // U+2028, U+2029
+}
+
 constexpr std::string_view kBlanks = " \t\n\v\f\r";
 
 bool IsDigit(char character)
@@ -155,6 +167,14 @@ std::string FractionPart(const DecimalDigits& decimal)
 }
 
 } // namespace
+
+std::string OneLine(std::string text)
+{
+    std::size_t start = 0, length = 0;
+    while (const std::size_t skipped = LineEnd(text, start)) start += skipped;
+    while (start + length < text.size() && LineEnd(text, start + length) == 0) ++length;
+    return text.substr(start, length);
+}
 
 double PrefixNumber(std::string_view text)
 {

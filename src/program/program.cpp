@@ -2,6 +2,7 @@
 
 #include "app/handlers.h"
 #include "app/help_pane.h"
+#include "app/number_text.h"
 #include "documents/system_information.h"
 
 #include <utility>
@@ -93,7 +94,7 @@ Refusal Type(Simulation& sim, FieldId field, std::string text)
     if (Refusal refusal = NotActive(sim, WindowId::Main)) return refusal;
     if (!sim.controls.fields[Index(field)].visible)
         return Because(FieldTable()[Index(field)].name, "is hidden");
-    SetText(sim, field, std::move(text));
+    SetText(sim, field, OneLine(std::move(text)));
     return std::nullopt;
 }
 

@@ -29,7 +29,7 @@ Refusal Scroll(Simulation& sim, ScrollBarId bar, int value);
 Refusal StepBar(Simulation& sim, ScrollBarId bar, int direction); // arrows: +1 or -1 small change
 Refusal PageBar(Simulation& sim, ScrollBarId bar, int direction); // beside the thumb: large change
 
-// The field's whole text becomes this.
+// The field's whole text becomes this, or its first line where it has several.
 Refusal Type(Simulation& sim, FieldId field, std::string text);
 
 Refusal Click(Simulation& sim, ButtonId button);
