@@ -21,6 +21,7 @@
 #include <QScrollBar>
 #include <QTest>
 #include <QTextDocument>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <QWindow>
 #include <clocale>
@@ -281,6 +282,35 @@ TEST_F(WindowTest, OnlyTheFirstLineOfWhatIsPastedCounts)
         EXPECT_EQ(Find<QLabel>("lblOutput(8)").text(), "ARGP = 12 Degrees");
         EXPECT_EQ(Sim().state.ARGP, 102);
     }
+}
+
+TEST_F(WindowTest, ALongReadOutEndsBeforeItsNeighbourAndTheTipHasTheWhole)
+{
+    const QString typed = QString("9").repeated(300);
+    for (const FieldId field : {txtARGP, txtSMajAxis, txtSMinAxis}) Field(field).setText(typed);
+    Ticks(1);
+    std::size_t shortened = 0;
+    const QRect panel = Find("Shape1").geometry();
+    for (const LabelRow& row : LabelTable()) {
+        auto& label = Find<QLabel>(row.name);
+        if (!RoomOf(row.id)) continue;
+        EXPECT_TRUE(panel.contains(label.geometry())) << row.name;
+        for (const LabelRow& other : LabelTable()) {
+            const bool neighbour = &other != &row && RoomOf(other.id);
+            EXPECT_FALSE(neighbour && label.geometry().intersects(Find(other.name).geometry()))
+                << row.name;
+        }
+        const bool isLong = label.text().size() > 60;
+        shortened += isLong;
+        EXPECT_EQ(Spoken(label).text(QAccessible::Name), label.text());
+        QHelpEvent hover(QEvent::ToolTip, {2, 2}, label.mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(&label, &hover);
+        if (row.toolTip.empty()) continue; // nothing to show but what stands there
+        const QString whole = isLong ? label.text() + TextOf(row.toolTip) : TextOf(row.toolTip);
+        EXPECT_EQ(QToolTip::text().remove('\n'), whole);
+    }
+    EXPECT_EQ(shortened, 2u); // ARGP, and the true anomaly that follows from it
+    QToolTip::hideText();
 }
 
 TEST_F(WindowTest, AFieldThatDescribesNoOrbitSaysSoUntilItDoes)

@@ -187,6 +187,13 @@ template <typename Row, std::size_t kRows> constexpr bool InOrder(const Row (&ro
     return true;
 }
 
+// The corner counts: the heading of a panel stands on its upper edge.
+bool Contains(const Place& panel, const Place& label)
+{
+    return label.left > panel.left && label.left < panel.left + panel.width &&
+           label.top > panel.top && label.top < panel.top + panel.height;
+}
+
 static_assert(std::size(kScrollBars) == kScrollBarCount && InOrder(kScrollBars));
 static_assert(std::size(kFields) == kFieldCount && InOrder(kFields));
 static_assert(std::size(kButtons) == kButtonCount && InOrder(kButtons));
@@ -227,6 +234,21 @@ std::span<const FrameRow> FrameTable()
 std::span<const ShapePairRow> ShapePairTable()
 {
     return kShapePairs;
+}
+
+std::optional<int> RoomOf(LabelId label)
+{
+    constexpr int kGap = 4; // pixels, to the neighbour or to the panel's edge
+    const Place& place = kLabels[Index(label)].place;
+    for (const FrameRow& panel : kFrames) {
+        if (!panel.fill || !Contains(panel.place, place)) continue;
+        int end = panel.place.left + panel.place.width;
+        for (const LabelRow& other : kLabels)
+            if (other.place.top == place.top && other.place.left > place.left)
+                end = std::min(end, other.place.left);
+        return end - kGap - place.left;
+    }
+    return std::nullopt;
 }
 
 } // namespace selvane

@@ -134,6 +134,11 @@ std::span<const LabelRow> LabelTable();
 std::span<const TimerRow> TimerTable();
 std::span<const MenuRow> MenuTable();
 std::span<const FrameRow> FrameTable();
+
+// The pixels that the text of a label in a white panel may take before it would run over its
+// neighbour or out of the panel, where it ends instead; nothing for all other labels.
+std::optional<int> RoomOf(LabelId label);
+
 std::span<const ShapePairRow> ShapePairTable(); // as they lie, from top to bottom
 
 } // namespace selvane

@@ -3,8 +3,10 @@
 #include "qt/appearance.h"
 
 #include <QFontMetrics>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <algorithm>
 
 namespace selvane {
@@ -27,7 +29,7 @@ Qt::Alignment AlignmentOf(Alignment alignment)
 } // namespace
 
 CaptionLabel::CaptionLabel(const LabelRow& row, QWidget* parent)
-    : QLabel(parent), place_(row.place), alignment_(row.alignment)
+    : QLabel(parent), place_(row.place), room_(RoomOf(row.id)), alignment_(row.alignment)
 {
     setTextFormat(Qt::PlainText);
     laidOut_.setCacheEnabled(true);
@@ -48,15 +50,23 @@ void CaptionLabel::SetCaption(const QString& caption)
     Fit();
 }
 
-void CaptionLabel::Fit()
+// The text's width.
+qreal CaptionLabel::LayOut(const QString& text)
 {
     laidOut_.setFont(font());
-    laidOut_.setText(text());
+    laidOut_.setText(text);
     laidOut_.beginLayout();
     const QTextLine line = laidOut_.createLine();
     laidOut_.endLayout();
-    const QSize needed((line.isValid() ? qRound(line.horizontalAdvance()) : 0) + 2,
-                       fontMetrics().height());
+    return line.isValid() ? line.horizontalAdvance() : 0;
+}
+
+void CaptionLabel::Fit()
+{
+    qreal width = LayOut(text());
+    if (room_ && width > *room_)
+        width = LayOut(fontMetrics().elidedText(text(), Qt::ElideRight, *room_));
+    const QSize needed(qRound(width) + 2, fontMetrics().height());
     QRect box = RectOf(place_);
     const int more = std::max(0, needed.width() - box.width());
     if (alignment_ == Alignment::Right) box.adjust(-more, 0, 0, 0);
@@ -66,10 +76,22 @@ void CaptionLabel::Fit()
     if (box != geometry()) setGeometry(box);
 }
 
+bool CaptionLabel::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip || !IsElided()) return QLabel::event(event);
+    constexpr qsizetype kLineLength = 80; // a tip of one line could be wider than the screen
+    QString tip;
+    for (qsizetype at = 0; at < text().size(); at += kLineLength)
+        tip += text().mid(at, kLineLength) + '\n';
+    tip += toolTip();
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip.trimmed(), this);
+    return true;
+}
+
 // The toolkit would lay the text out a second time.
 void CaptionLabel::paintEvent(QPaintEvent* event)
 {
-    if (alignment_ != Alignment::Left || text().contains('&')) {
+    if (alignment_ != Alignment::Left || (text().contains('&') && !IsElided())) {
         QLabel::paintEvent(event);
         return;
     }

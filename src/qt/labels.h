@@ -6,11 +6,13 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QTextLayout>
+#include <optional>
 
 namespace selvane {
 
-// A text at its place. It is never cut off: where the text needs more room than the place has, it
-// grows away from the side that it is aligned to.
+// A text at its place. Where the text needs more room than the place has, it grows away from the
+// side that it is aligned to. Where that would take it over its neighbour it ends with dots, and
+// the tool tip has all of it.
 class CaptionLabel : public QLabel
 {
 public:
@@ -19,12 +21,16 @@ public:
     void SetCaption(const QString& caption);
 
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
     void Fit();
+    qreal LayOut(const QString& text);
+    bool IsElided() const { return laidOut_.text() != text(); }
 
     const Place place_;
+    const std::optional<int> room_; // pixels
     const Alignment alignment_;
     QTextLayout laidOut_; // measured and painted, as every tick changes a dozen read-outs
 };
