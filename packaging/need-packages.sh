@@ -29,7 +29,7 @@ need_packages() {
 
 # What the program itself is built from and shows its texts in.
 packages_to_run=(build-essential cmake ninja-build qt6-base-dev qt6-wayland
-                 libpng-dev fonts-crosextra-carlito)
+                 fonts-crosextra-carlito)
 
 # What its tests and its package need besides.
 packages_to_check=(libgtest-dev libgmock-dev libbenchmark-dev clang clang-format

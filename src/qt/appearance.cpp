@@ -1,12 +1,11 @@
 #include "qt/appearance.h"
 
-#include "qt/quick_style.h"
+#include "qt/application_icon.h"
 
 #include <QApplication>
 #include <QPalette>
 #include <QPixmapCache>
 #include <QStyle>
-#include <QThreadPool>
 #include <QToolTip>
 #include <clocale>
 
@@ -18,7 +17,6 @@ namespace {
 // again and again would fill the toolkit's 10 MiB. All that one window shows takes a quarter of
 // this.
 constexpr int kStylePicturesKiB = 2048;
-constexpr int kIdleThreadMs = 1000; // the toolkit's, which fill large areas
 
 // Every colour is named, so that a dark desktop changes none of them.
 QPalette LightPalette()
@@ -77,12 +75,11 @@ void SetUpApplication(QApplication& application)
     application.setApplicationName("selvane");
     application.setDesktopFileName("org.example.selvane");
     application.setLayoutDirection(Qt::LeftToRight);
-    application.setStyle(new QuickStyle);
+    application.setStyle("Fusion");
     application.setPalette(LightPalette());
     application.setFont(FontOf(kTextPoints));
-    QApplication::setCursorFlashTime(0); // a caret that blinks keeps a program at rest awake
+    application.setWindowIcon(ApplicationIcon());
     QPixmapCache::setCacheLimit(kStylePicturesKiB);
-    QThreadPool::globalInstance()->setExpiryTimeout(kIdleThreadMs);
     QToolTip::setPalette(LightPalette());
     QToolTip::setFont(FontOf(kTextPoints));
 }

@@ -1,12 +1,9 @@
 #include "qt/shell.h"
 
 #include "program/program.h"
-#include "qt/application_icon.h"
-#include "qt/heap.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QTimer>
 #include <QWindow>
 
 namespace selvane {
@@ -45,10 +42,6 @@ void Shell::Show()
     window_.centralWidget()->setFocus(); // no control has it before the user's first Tab
     window_.windowHandle()->installEventFilter(this);
     window_.activateWindow(); // a desktop without a window manager activates nothing by itself
-    QTimer::singleShot(0, this, [] {
-        QApplication::setWindowIcon(ApplicationIcon());
-        ReturnFreeMemory(); // starting takes more than flying
-    });
 }
 
 void Shell::Match(Dispatch::After after)
