@@ -37,14 +37,21 @@ WindowKeeper::~WindowKeeper() = default;
 
 QWidget* WindowKeeper::Widget(WindowId window) const
 {
-    return window == WindowId::Main ? &main_
-                                    : secondary_[static_cast<std::size_t>(window)].widget.get();
+    switch (window) {
+    case WindowId::UserGuide:
+        return guide_.widget.get();
+    case WindowId::About:
+        return about_.widget.get();
+    case WindowId::Main:
+        break;
+    }
+    return &main_;
 }
 
 void WindowKeeper::Match(const Simulation& sim)
 {
-    const bool guideClosed = MatchSecondary(sim, WindowId::UserGuide);
-    const bool aboutClosed = MatchSecondary(sim, WindowId::About);
+    const bool guideClosed = MatchSecondary(guide_, IsLoaded(sim, WindowId::UserGuide), sim);
+    const bool aboutClosed = MatchSecondary(about_, IsLoaded(sim, WindowId::About), sim);
     if (!sim.windows.running) {
         emit ended();
         return;
@@ -61,50 +68,37 @@ void WindowKeeper::Match(const Simulation& sim)
 }
 
 // True when it has just been closed.
-bool WindowKeeper::MatchSecondary(const Simulation& sim, WindowId window)
+template <typename Frame>
+bool WindowKeeper::MatchSecondary(Secondary<Frame>& secondary, bool isOpen, const Simulation& sim)
 {
-    const Secondary& shown = secondary_[static_cast<std::size_t>(window)];
-    const bool wasOpen = shown.widget != nullptr;
-    const bool isOpen = IsLoaded(sim, window);
-    if (isOpen && !wasOpen) Open(window);
-    if (!isOpen && wasOpen) Drop(window);
-    if (shown.widget) shown.mirror(sim);
+    const bool wasOpen = secondary.widget != nullptr;
+    if (isOpen && !wasOpen) Open(secondary);
+    if (!isOpen && wasOpen) Close(secondary);
+    if (secondary.widget) secondary.widget->Mirror(sim);
     return wasOpen && !isOpen;
 }
 
-void WindowKeeper::Open(WindowId window)
+template <typename Frame> void WindowKeeper::Open(Secondary<Frame>& secondary)
 {
-    Secondary& made = secondary_[static_cast<std::size_t>(window)];
-    const auto take = [&made](auto widget) {
-        made.mirror = [raw = widget.get()](const Simulation& sim) { raw->Mirror(sim); };
-        made.widget = std::move(widget);
-    };
-    if (window == WindowId::UserGuide)
-        take(std::make_unique<UserGuideFrame>(door_));
-    else
-        take(std::make_unique<AboutFrame>(door_));
-    made.frameKnown = false;
-    made.widget->installEventFilter(this);
-    KeepOnScreen(*made.widget);
-}
-
-// The desktop's frame is known once the window is active.
-void WindowKeeper::KeepFrameOnScreen(WindowId window)
-{
-    Secondary& shown = secondary_[static_cast<std::size_t>(window)];
-    if (!shown.widget || shown.frameKnown) return;
-    shown.frameKnown = true;
-    KeepOnScreen(*shown.widget);
+    secondary = {std::make_unique<Frame>(door_)};
+    secondary.widget->installEventFilter(this);
+    KeepOnScreen(*secondary.widget);
 }
 
 // The window may be in the middle of one of its own events.
-void WindowKeeper::Drop(WindowId window)
+template <typename Frame> void WindowKeeper::Close(Secondary<Frame>& secondary)
 {
-    Secondary& shown = secondary_[static_cast<std::size_t>(window)];
-    shown.widget->removeEventFilter(this);
-    shown.widget->hide();
-    shown.widget.release()->deleteLater();
-    shown.mirror = nullptr;
+    secondary.widget->removeEventFilter(this);
+    secondary.widget->hide();
+    secondary.widget.release()->deleteLater();
+}
+
+// The desktop's frame is known once the window is active.
+template <typename Frame> void WindowKeeper::KeepFrameOnScreen(Secondary<Frame>& secondary)
+{
+    if (!secondary.widget || secondary.frameKnown) return;
+    secondary.frameKnown = true;
+    KeepOnScreen(*secondary.widget);
 }
 
 void WindowKeeper::BringUp(WindowId window)
@@ -136,7 +130,8 @@ bool WindowKeeper::eventFilter(QObject* watched, QEvent* event)
     const bool handled = QObject::eventFilter(watched, event);
     const std::optional<WindowId> window = Which(watched);
     if (window && event->type() == QEvent::WindowActivate) {
-        KeepFrameOnScreen(*window);
+        if (*window == WindowId::UserGuide) KeepFrameOnScreen(guide_);
+        if (*window == WindowId::About) KeepFrameOnScreen(about_);
         TellActivated(*window);
     }
     if (window && event->type() == QEvent::Close)

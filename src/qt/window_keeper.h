@@ -6,8 +6,6 @@
 
 #include <QDeadlineTimer>
 #include <QObject>
-#include <array>
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -15,7 +13,9 @@ class QWidget;
 
 namespace selvane {
 
+class AboutFrame;
 class Dispatch;
+class UserGuideFrame;
 
 class WindowKeeper : public QObject
 {
@@ -39,24 +39,25 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    struct Secondary
+    template <typename Frame> struct Secondary
     {
-        std::unique_ptr<QWidget> widget;
-        std::function<void(const Simulation&)> mirror;
+        std::unique_ptr<Frame> widget; // null where it is not open
         bool frameKnown = false;
     };
 
-    bool MatchSecondary(const Simulation& sim, WindowId window);
-    void Open(WindowId window);
-    void Drop(WindowId window);
+    template <typename Frame>
+    bool MatchSecondary(Secondary<Frame>& secondary, bool isOpen, const Simulation& sim);
+    template <typename Frame> void Open(Secondary<Frame>& secondary);
+    template <typename Frame> void Close(Secondary<Frame>& secondary);
+    template <typename Frame> static void KeepFrameOnScreen(Secondary<Frame>& secondary);
     void BringUp(WindowId window);
     void TellActivated(WindowId window);
-    void KeepFrameOnScreen(WindowId window);
     std::optional<WindowId> Which(const QObject* widget) const;
 
     Dispatch& door_;
     QWidget& main_;
-    std::array<Secondary, kWindowCount> secondary_; // empty for the main window
+    Secondary<UserGuideFrame> guide_;
+    Secondary<AboutFrame> about_;
     WindowId active_ = WindowId::Main;
     unsigned raises_ = 0;
     std::optional<WindowId> expected_; // asked of the desktop to be made the active one
