@@ -271,7 +271,7 @@ TEST_F(WindowTest, TicksLeaveTheFieldThatIsBeingTypedInAlone)
 
 TEST_F(WindowTest, OnlyTheFirstLineOfWhatIsPastedCounts)
 {
-    for (const char* const text : {"12\n34\n56", "12\r34", "12\t34", "\n12\x01\x02"}) {
+    for (const char* const text : {"12\n34\n56", "12\r34", "\n12\x01\x02"}) {
         QLineEdit& field = Field(txtARGP);
         field.selectAll();
         QApplication::clipboard()->setText(text);

@@ -17,7 +17,7 @@ std::size_t LineEnd(std::string_view text, std::size_t at)
     const auto byte = [&](std::size_t offset) {
         return at + offset < text.size() ? static_cast<unsigned char>(text[at + offset]) : ' ';
     };
-    if (byte(0) < 0x20 || byte(0) == 0x7F) return 1;
+    if ((byte(0) < 0x20 && byte(0) != '\t') || byte(0) == 0x7F) return 1;
     if (byte(0) == 0xC2 && byte(1) >= 0x80 && byte(1) < 0xA0) return 2;
     const bool separator = byte(0) == 0xE2 && byte(1) == 0x80 && (byte(2) & ~1) == 0xA8;
     return separator ? 3 : 0; // U+2028, U+2029

@@ -9,7 +9,7 @@
 namespace selvane {
 
 // What a field keeps of a text (UTF-8) that is typed or pasted into it: its first line that is not
-// empty. Control characters, a tab among them, end a line as line breaks do.
+// empty. Control characters but the tab, which is a blank, end a line as line breaks do.
 std::string OneLine(std::string text);
 
 // The longest leading numeric prefix: blanks, sign, digits with one point, an exponent only with

@@ -65,7 +65,8 @@ void CaptionLabel::Fit()
 {
     qreal width = LayOut(text());
     if (room_ && width > *room_)
-        width = LayOut(fontMetrics().elidedText(text(), Qt::ElideRight, *room_));
+        width = std::min<qreal>(LayOut(fontMetrics().elidedText(text(), Qt::ElideRight, *room_)),
+                                *room_);
     const QSize needed(qRound(width) + 2, fontMetrics().height());
     QRect box = RectOf(place_);
     const int more = std::max(0, needed.width() - box.width());
