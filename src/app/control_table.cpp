@@ -178,6 +178,18 @@ constexpr ShapePairRow kShapePairs[] = {
   {ShapePair::Axis,  {sclSMinAxis, sclSMajAxis}, {txtSMinAxis, txtSMajAxis}, btnAxisCalculate, {20, 749, 432, 37}},
 };
 
+// Row by row, as they stand in the window.
+constexpr std::string_view kReadingOrder[] = {
+    "sclUD", "sclLR", "Command1",
+    "sclView", "txtView", "btnReverse", "btnPause", "btnPlay", "btnAdvance", "sclZoom", "txtZoom",
+    "sclPeri", "txtPeri", "sclApo", "txtApo", "btnApsisCalculate",
+    "sclPeriE", "txtPeriE", "sclE", "txtE", "btnECalculate",
+    "sclSMinAxis", "txtSMinAxis", "sclSMajAxis", "txtSMajAxis", "btnAxisCalculate",
+    "sclIncl", "txtIncl", "sclRot", "txtRot", "sclARGP", "txtARGP",
+    "sclViewD", "txtViewD", "btnBack2", "btnNext2", "sclRange", "txtRange",
+    "txtHelp", "lblReturnToTutorial",
+};
+
 // clang-format on
 
 template <typename Row, std::size_t kRows> constexpr bool InOrder(const Row (&rows)[kRows])
@@ -249,6 +261,11 @@ std::optional<int> RoomOf(LabelId label)
         return end - kGap - place.left;
     }
     return std::nullopt;
+}
+
+std::span<const std::string_view> ReadingOrder()
+{
+    return kReadingOrder;
 }
 
 } // namespace selvane

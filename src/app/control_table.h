@@ -141,4 +141,7 @@ std::optional<int> RoomOf(LabelId label);
 
 std::span<const ShapePairRow> ShapePairTable(); // as they lie, from top to bottom
 
+// The controls that take the focus, by name, in the order in which Tab walks through them.
+std::span<const std::string_view> ReadingOrder();
+
 } // namespace selvane

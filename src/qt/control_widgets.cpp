@@ -20,20 +20,6 @@ namespace selvane {
 
 namespace {
 
-// Row by row, as they stand in the window.
-// clang-format off
-constexpr std::string_view kReadingOrder[] = {
-    "sclUD", "sclLR", "Command1",
-    "sclView", "txtView", "btnReverse", "btnPause", "btnPlay", "btnAdvance", "sclZoom", "txtZoom",
-    "sclPeri", "txtPeri", "sclApo", "txtApo", "btnApsisCalculate",
-    "sclPeriE", "txtPeriE", "sclE", "txtE", "btnECalculate",
-    "sclSMinAxis", "txtSMinAxis", "sclSMajAxis", "txtSMajAxis", "btnAxisCalculate",
-    "sclIncl", "txtIncl", "sclRot", "txtRot", "sclARGP", "txtARGP",
-    "sclViewD", "txtViewD", "btnBack2", "btnNext2", "sclRange", "txtRange",
-    "txtHelp", "lblReturnToTutorial",
-};
-// clang-format on
-
 class ControlBuilder
 {
 public:
@@ -198,7 +184,7 @@ private:
     void OrderTabs()
     {
         QWidget* before = nullptr;
-        for (const std::string_view name : kReadingOrder) {
+        for (const std::string_view name : ReadingOrder()) {
             auto* const next = panel_.findChild<QWidget*>(TextOf(name));
             if (before) QWidget::setTabOrder(before, next);
             before = next;
@@ -224,11 +210,6 @@ ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door)
     ControlBuilder(widgets, panel, door).Build();
     widgets.menu = BuildMenus(menuBar, door);
     return widgets;
-}
-
-std::span<const std::string_view> ReadingOrder()
-{
-    return kReadingOrder;
 }
 
 } // namespace selvane

@@ -53,8 +53,4 @@ struct ControlWidgets
 // the dispatcher.
 ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door);
 
-// The names of all controls that take the focus, in reading order: the main picture and the row
-// below it, the two panels, then the tutorials' column.
-std::span<const std::string_view> ReadingOrder();
-
 } // namespace selvane
