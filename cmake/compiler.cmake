@@ -1,10 +1,13 @@
 # Programs, tools and tests stand together, so that they are found without looking.
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
-# Programs load at any address, as Debian's do.
-include(CheckPIESupported)
-check_pie_supported(LANGUAGES CXX)
-set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+# Programs load at any address, as Debian's do. A module for a browser page has an address space of
+# its own.
+if(NOT SELVANE_PAGE)
+    include(CheckPIESupported)
+    check_pie_supported(LANGUAGES CXX)
+    set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+endif()
 
 # One target carries the settings that every part of the program is compiled with.
 add_library(selvane_settings INTERFACE)
@@ -23,7 +26,7 @@ if(SELVANE_SANITIZE)
     target_compile_options(selvane_settings INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(selvane_settings INTERFACE -fsanitize=address,undefined)
-elseif(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT WIN32)
+elseif(CMAKE_BUILD_TYPE STREQUAL "Release" AND NOT WIN32 AND NOT SELVANE_PAGE)
     # What Debian builds its own programs with.
     target_compile_options(selvane_settings INTERFACE
         -fstack-protector-strong -D_FORTIFY_SOURCE=2)
