@@ -62,7 +62,7 @@ const kScenes: Readonly<Record<string, readonly string[]>> = {
   "a Molniya orbit round Mars, zoomed": ["menu mnMars", "menu mnMoly", "scroll sclZoom 18"],
   "reference frames, step 3": ["click btnNext2", "click btnNext2"],
   "solar days": ["menu mnTimeStandards"],
-  "the clock": ["menu mnTimeStandards", "click btnNext2"],
+  "the clock": ["menu mnTimeStandards", "click btnNext2", "tick tmrTime"],
 };
 
 for (const scale of [1, 1.5, 2])

@@ -13,7 +13,10 @@ export function readStory(file: string): StoryLine[] {
     const told = /^(expect|near|drawn) ([^=]*)=(.*)$/.exec(line);
     const [, kind, key = "", value = ""] = told ?? [];
     if (told) lines.push({ number: at + 1, kind: kind as "expect", key, value });
-    else lines.push({ number: at + 1, action: line });
+    else {
+      const [, times = "1", action = line] = /^(\d+) \* (.*)$/.exec(line) ?? [];
+      for (let each = 0; each < Number(times); ++each) lines.push({ number: at + 1, action });
+    }
   });
   return lines;
 }
