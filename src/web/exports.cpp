@@ -10,6 +10,7 @@
 #include "web/records.h"
 #include "web/tables.h"
 
+#include <algorithm>
 #include <array>
 
 namespace selvane::web {
@@ -56,12 +57,13 @@ constexpr std::uint32_t Swapped(raster::Pixel pixel)
 
 void CopyPart(Canvas& canvas, const raster::Box& box)
 {
-    canvas.part.clear();
+    const auto width = static_cast<std::size_t>(box.across.end - box.across.first);
+    canvas.part.resize(width * static_cast<std::size_t>(box.down.end - box.down.first));
+    std::uint32_t* to = canvas.part.data();
     for (int row = box.down.first; row < box.down.end; ++row) {
-        const raster::Pixel* const line =
+        const raster::Pixel* const from =
             canvas.painter.Pixels() + static_cast<std::ptrdiff_t>(row) * canvas.painter.Width();
-        for (int at = box.across.first; at < box.across.end; ++at)
-            canvas.part.push_back(Swapped(line[at]));
+        to = std::transform(from + box.across.first, from + box.across.end, to, Swapped);
     }
 }
 

@@ -5,8 +5,27 @@ import { kPage, openBrowser, openPage } from "./browser";
 
 const kSeconds = 8;
 
-// Seconds of the processor on the page's own thread, styles, layout and painting included.
-async function load(page: Page): Promise<{ share: number; perTick: number }> {
+// Milliseconds from a tick's begin until its pictures are on their canvases, the median.
+async function tickToFrame(page: Page): Promise<number> {
+  await page.evaluateOnNewDocument(() => {
+    const setTimer = window.setTimeout.bind(window), ticks: number[] = [];
+    Object.assign(window, { ticks });
+    window.setTimeout = ((run: (...words: unknown[]) => void, wait?: number, ...words: unknown[]) =>
+      setTimer(() => {
+        const begin = performance.now();
+        run(...words);
+        if (typeof words[0] === "string") ticks.push(performance.now() - begin);
+      }, wait)) as typeof window.setTimeout;
+  });
+  await page.reload();
+  await page.waitForSelector("#panel");
+  await new Promise((resolve) => setTimeout(resolve, kSeconds * 1000));
+  const ticks = await page.evaluate(() => (window as unknown as { ticks: number[] }).ticks);
+  return ticks.sort((a, b) => a - b)[Math.floor(ticks.length / 2)] ?? NaN;
+}
+
+// The share of a core that the page's own thread takes, styles, layout and painting included.
+async function load(page: Page): Promise<number> {
   const session = await page.createCDPSession();
   await session.send("Performance.setTimeDomain", { timeDomain: "threadTicks" });
   await session.send("Performance.enable");
@@ -15,17 +34,8 @@ async function load(page: Page): Promise<{ share: number; perTick: number }> {
     return metrics.find((each) => each.name === "TaskDuration")?.value ?? NaN;
   };
   const before = await busy();
-  const ticks = await page.evaluate(async (seconds) => {
-    let count = 0;
-    const watch = new MutationObserver(() => ++count);
-    for (const id of ["lblSat", "lblOutput(10)"])
-      watch.observe(document.getElementById(id)!, { attributes: id === "lblSat", childList: true,
-                                                    subtree: true, characterData: true });
-    await new Promise((resolve) => setTimeout(resolve, seconds * 1000));
-    return count;
-  }, kSeconds);
-  const spent = (await busy()) - before;
-  return { share: spent / kSeconds, perTick: ticks > 0 ? spent / ticks : 0 };
+  await new Promise((resolve) => setTimeout(resolve, kSeconds * 1000));
+  return ((await busy()) - before) / kSeconds;
 }
 
 async function run(): Promise<void> {
@@ -43,14 +53,15 @@ async function run(): Promise<void> {
   const year = await load(page);
   await page.click("#btnPause");
   const still = await load(page);
+  const frame = await tickToFrame(page);
   await browser.close();
   const percent = (share: number): string => `${(share * 100).toFixed(2)} % of a core`;
-  const ms = (seconds: number): string => `${(seconds * 1000).toFixed(2)} ms`;
   console.log(`file          ${statSync(kPage).size} bytes (at most 600,000)
 start         ${Math.min(...starts).toFixed(0)} ms, median ${starts.sort((a, b) => a - b)[3]?.toFixed(0)} ms (at most 1,000)
-default scene ${percent(flying.share)} (at most 5)
-Earth's year  ${percent(year.share)}, ${ms(year.perTick)} from tick to frame (at most 1)
-at rest       ${percent(still.share)} (0)`);
+default scene ${percent(flying)} (at most 5)
+Earth's year  ${percent(year)}
+at rest       ${percent(still)} (0)
+tick to frame ${frame.toFixed(2)} ms (at most 1)`);
 }
 
 void run();

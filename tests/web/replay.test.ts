@@ -5,7 +5,7 @@ import { test } from "node:test";
 import { loadTestModule } from "./module";
 
 const kNative = process.env["SELVANE_REPLAY"] ?? "build/release/bin/replay";
-const kScripts = 200, kActions = 60;
+const kScripts = 200, kActions = 40;
 
 // The first line that differs, so that a failure says something.
 function firstDifference(one: string, other: string): string {

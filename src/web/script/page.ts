@@ -147,8 +147,9 @@ export class Page {
     if (changes.marker) this.marker.show(changes.marker);
     if (changes.pane) this.pane.show(changes.pane);
     this.paint();
+    const open = [this.guide, this.about];
     this.showWindows(changes);
-    this.speak(changes.spoken);
+    this.speak(changes.spoken, this.guide !== open[0] || this.about !== open[1]);
     const news = changes.guide ? "frmUserGuide.txtHelp" : changes.pane ? "txtHelp" : undefined;
     if (news !== undefined) this.news.textContent = this.spoken.get(news)?.[0] ?? "";
     if (changes.ruling !== undefined) this.frameRuling(changes.ruling);
@@ -194,18 +195,21 @@ export class Page {
   }
 
   // What is told of a window that is not open waits until it is.
-  private speak(spoken: ByName<Spoken>): void {
-    for (const [name, words] of Object.entries(spoken)) this.spoken.set(name, words);
-    if (Object.keys(spoken).length === 0) return;
-    const dialogs = { frmUserGuide: this.guide?.dialog, frmAbout: this.about?.dialog };
-    for (const [key, [name, description]] of this.spoken) {
-      const [window, control] = key.split(".");
-      const element = control === undefined ? this.speakers.get(key)
-        : dialogs[window as keyof typeof dialogs]?.speakers.get(control);
+  private speak(told: ByName<Spoken>, justOpened: boolean): void {
+    for (const [name, words] of Object.entries(told)) this.spoken.set(name, words);
+    for (const [name, words] of justOpened ? this.spoken : Object.entries(told)) {
+      const element = this.speakerOf(name);
       if (!element) continue;
-      setAttribute(element, element instanceof HTMLImageElement ? "alt" : "aria-label", name);
-      setAttribute(element, "aria-description", description);
+      setAttribute(element, element instanceof HTMLImageElement ? "alt" : "aria-label", words[0]);
+      setAttribute(element, "aria-description", words[1]);
     }
+  }
+
+  private speakerOf(name: string): HTMLElement | undefined {
+    const [window = "", control] = name.split(".");
+    if (control === undefined) return this.speakers.get(name);
+    const dialog = window === "frmAbout" ? this.about?.dialog : this.guide?.dialog;
+    return dialog?.speakers.get(control);
   }
 
   private carryOut(request: Request): void {
