@@ -133,7 +133,7 @@ void MatchUnchanged(benchmark::State& state)
     QtPlatform platform;
     Shell shell(platform);
     shell.Show();
-    shell.Clockwork().StandStill();
+    shell.EventTimers().StandStill();
     for (auto turn : state) shell.Match(Dispatch::After::TicksOnly);
 }
 
@@ -142,8 +142,8 @@ void MatchAfterTick(benchmark::State& state)
     QtPlatform platform;
     Shell shell(platform);
     shell.Show();
-    shell.Clockwork().StandStill();
-    for (auto turn : state) shell.Door().Tick(tmrSat);
+    shell.EventTimers().StandStill();
+    for (auto turn : state) shell.Dispatcher().Tick(tmrSat);
 }
 
 // A tutorial's scene on its picture, and the clearing of that picture alone.
@@ -182,16 +182,16 @@ void BarToPicture(benchmark::State& state)
     QtPlatform platform;
     Shell shell(platform);
     shell.Show();
-    shell.Clockwork().StandStill();
+    shell.EventTimers().StandStill();
     if (state.range(0) > 0)
-        shell.Door().Act(WindowId::Main,
-                         [&](Simulation& sim) { Choose(sim, kDemos[state.range(0) - 1]); });
+        shell.Dispatcher().Act(WindowId::Main,
+                               [&](Simulation& sim) { Choose(sim, kDemos[state.range(0) - 1]); });
     std::vector<double> milliseconds;
     int value = 0;
     for (auto turn : state) {
         const auto start = Clock::now();
-        shell.Door().Act(WindowId::Main,
-                         [&](Simulation& sim) { Scroll(sim, sclIncl, ++value % 90); });
+        shell.Dispatcher().Act(WindowId::Main,
+                               [&](Simulation& sim) { Scroll(sim, sclIncl, ++value % 90); });
         QApplication::processEvents();
         milliseconds.push_back(
             std::chrono::duration<double, std::milli>(Clock::now() - start).count());

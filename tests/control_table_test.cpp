@@ -17,31 +17,31 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-std::string Told(std::string_view text)
+std::string AsText(std::string_view text)
 {
     return std::string(text);
 }
 
-std::string Told(double number)
+std::string AsText(double number)
 {
     return replay::NumberText(number);
 }
 
-std::string Told(const std::optional<Colour>& colour)
+std::string AsText(const std::optional<Colour>& colour)
 {
     return replay::ColourText(colour);
 }
 
-std::string Told(const Place& place)
+std::string AsText(const Place& place)
 {
-    return Told(place.left) + ' ' + Told(place.top) + ' ' + Told(place.width) + ' ' +
-           Told(place.height);
+    return AsText(place.left) + ' ' + AsText(place.top) + ' ' + AsText(place.width) + ' ' +
+           AsText(place.height);
 }
 
 template <typename... Columns> std::string Line(const Columns&... columns)
 {
     std::string line;
-    ((line += (line.empty() ? "" : " | ") + Told(columns)), ...);
+    ((line += (line.empty() ? "" : " | ") + AsText(columns)), ...);
     return line;
 }
 

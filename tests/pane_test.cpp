@@ -76,13 +76,14 @@ struct Pane
 template <typename Frame> struct Opened
 {
     replay::Stage stage;
-    Dispatch door{stage.sim, stage.platform};
-    Frame frame{door};
+    Dispatch dispatcher{stage.sim, stage.platform};
+    Frame frame{dispatcher};
 
     explicit Opened(MenuId item)
     {
-        QObject::connect(&door, &Dispatch::settled, &frame, [this] { frame.Mirror(stage.sim); });
-        door.Act(WindowId::Main, [item](Simulation& sim) { Choose(sim, item); });
+        QObject::connect(&dispatcher, &Dispatch::settled, &frame,
+                         [this] { frame.Mirror(stage.sim); });
+        dispatcher.Act(WindowId::Main, [item](Simulation& sim) { Choose(sim, item); });
         frame.show();
         frame.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&frame));

@@ -1,4 +1,4 @@
-// What a screen reader is told is true whenever it asks.
+// What a screen reader says is true whenever it asks.
 #include "program/spoken_text.h"
 #include "replay/monkey.h"
 #include "replay/player.h"

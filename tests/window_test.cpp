@@ -1,5 +1,5 @@
 // What only the window shows: the focus, keys, dragging, typing while the satellite flies, small
-// screens, other languages, what a screen reader is told, and which window is active.
+// screens, other languages, what a screen reader says, and which window is active.
 #include "program/program.h"
 #include "qt/appearance.h"
 #include "qt/control_widgets.h"
@@ -46,7 +46,7 @@ protected:
     void Start(int screen)
     {
         shell = std::make_unique<Shell>(platform);
-        shell->Clockwork().StandStill();
+        shell->EventTimers().StandStill();
         shell->Window().setScreen(QGuiApplication::screens().at(screen));
         shell->Window().FitToScreen();
         shell->Show();
@@ -64,9 +64,9 @@ protected:
     const Simulation& Sim() { return shell->Sim(); }
     void Ticks(int count)
     {
-        for (int tick = 0; tick < count; ++tick) shell->Door().Tick(tmrSat);
+        for (int tick = 0; tick < count; ++tick) shell->Dispatcher().Tick(tmrSat);
     }
-    void Do(Dispatch::Event event) { shell->Door().Report(std::move(event)); }
+    void Do(Dispatch::Event event) { shell->Dispatcher().Report(std::move(event)); }
 
     std::string FocusName()
     {
@@ -356,7 +356,7 @@ TEST_F(WindowTest, ATickThatChangesNoIntervalKeepsTheBeat)
     shell = nullptr;
     shell = std::make_unique<Shell>(platform); // with its timers running
     shell->Show();
-    QTimer& timer = *shell->Clockwork().findChild<QTimer*>("tmrSat");
+    QTimer& timer = *shell->EventTimers().findChild<QTimer*>("tmrSat");
     ASSERT_TRUE(timer.isActive());
     EXPECT_EQ(timer.timerType(), Qt::PreciseTimer);
     QTest::qSleep(40);

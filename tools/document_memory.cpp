@@ -52,16 +52,17 @@ public:
 private:
     void InMainWindow(ButtonId button)
     {
-        shell_.Door().Act(WindowId::Main, [button](Simulation& sim) { Click(sim, button); });
+        shell_.Dispatcher().Act(WindowId::Main, [button](Simulation& sim) { Click(sim, button); });
     }
 
     void InGuide(int step)
     {
         constexpr int kTopics = 7;
         if (step == 0)
-            shell_.Door().Act(WindowId::Main, [](Simulation& sim) { Choose(sim, mnUserGuide); });
+            shell_.Dispatcher().Act(WindowId::Main,
+                                    [](Simulation& sim) { Choose(sim, mnUserGuide); });
         if (step < kTopics)
-            shell_.Door().Act(WindowId::UserGuide, [step](Simulation& sim) {
+            shell_.Dispatcher().Act(WindowId::UserGuide, [step](Simulation& sim) {
                 ClickTopic(sim, static_cast<Topic>(step));
             });
         else
@@ -76,7 +77,7 @@ int Measure(int loads)
 {
     QtPlatform platform;
     Shell shell(platform);
-    shell.Clockwork().StandStill();
+    shell.EventTimers().StandStill();
     shell.Show();
     QApplication::processEvents();
     Reader reader(shell);

@@ -32,7 +32,7 @@ public:
 
 struct Driver
 {
-    Dispatch& door;
+    Dispatch& dispatcher;
     StillPlatform& platform;
 
     void operator()(const replay::ScrollTo& to) const
@@ -63,7 +63,7 @@ struct Driver
     {
         Do([on](Simulation& sim) { return ClickLabel(sim, on.label); });
     }
-    void operator()(const replay::TimerTick& of) const { door.Tick(of.timer); }
+    void operator()(const replay::TimerTick& of) const { dispatcher.Tick(of.timer); }
     void operator()(const replay::Activation& of) const
     {
         Do([of](Simulation& sim) { return ActivateByUser(sim, of.window); });
@@ -86,7 +86,7 @@ struct Driver
 private:
     template <typename Event> void Do(Event event) const
     {
-        door.Report([event](Simulation& sim) { event(sim); });
+        dispatcher.Report([event](Simulation& sim) { event(sim); });
     }
 };
 
@@ -153,13 +153,13 @@ int Render(const Order& order)
 {
     StillPlatform platform;
     Shell shell(platform);
-    shell.Clockwork().StandStill();
+    shell.EventTimers().StandStill();
     shell.Show();
-    if (!order.script.isEmpty() && !Play(order.script, {shell.Door(), platform})) return 2;
+    if (!order.script.isEmpty() && !Play(order.script, {shell.Dispatcher(), platform})) return 2;
     if (order.window == WindowId::UserGuide)
-        shell.Door().Report([](Simulation& sim) { Choose(sim, mnUserGuide); });
+        shell.Dispatcher().Report([](Simulation& sim) { Choose(sim, mnUserGuide); });
     if (order.window == WindowId::About)
-        shell.Door().Report([](Simulation& sim) { Choose(sim, mnAbout); });
+        shell.Dispatcher().Report([](Simulation& sim) { Choose(sim, mnAbout); });
     QApplication::processEvents();
     QWidget* const window = shell.Windows().Widget(order.window);
     return window && window->grab().save(order.out) ? 0 : 2;

@@ -206,7 +206,7 @@ struct WindowPlayer::Hand
     {
         Press(WindowId::Main, LabelTable()[Index(act.label)].name);
     }
-    void operator()(const replay::TimerTick& act) const { shell.Door().Tick(act.timer); }
+    void operator()(const replay::TimerTick& act) const { shell.Dispatcher().Tick(act.timer); }
 
     void operator()(const replay::Activation& act) const
     {
@@ -307,7 +307,7 @@ struct WindowPlayer::GestureHand
 
 WindowPlayer::WindowPlayer() : shell_(platform_)
 {
-    shell_.Clockwork().StandStill();
+    shell_.EventTimers().StandStill();
     for (QObject* const object : shell_.Window().findChildren<QObject*>())
         named_.emplace(object->objectName().toStdString(), object);
     shell_.Show();

@@ -66,7 +66,7 @@ std::size_t ExponentEnd(std::string_view text, std::size_t at)
 }
 
 // What std::from_chars calls out of range is too large or too small; only the first overflows. The
-// place of the first digit that counts and the exponent tell together which.
+// place of the first digit that counts and the exponent together decide which.
 bool IsTooSmall(std::string_view number)
 {
     const std::size_t mantissa = std::min(number.find_first_of("eE"), number.size());

@@ -36,7 +36,7 @@ std::string HexadecimalDigits(std::string_view bytes)
     return digits;
 }
 
-// The tool's full path; nothing where the registry does not tell one. A path that stands in the
+// The tool's full path; nothing where the registry names none. A path that stands in the
 // registry itself is taken at its word.
 std::optional<std::string> SystemInformationPath(Platform& platform)
 {

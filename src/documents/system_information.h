@@ -1,4 +1,4 @@
-// The machine's system-information tool, which the about box starts. Its place is told by a
+// The machine's system-information tool, which the about box starts. Its place is given by a
 // registry.
 #pragma once
 

@@ -1,4 +1,4 @@
-// What a screen reader is told, the same in every shell: the name of each control, what it is for,
+// What a screen reader says, the same in every shell: the name of each control, what it is for,
 // what the pictures show, and that a new text stands in a pane. The words are worked out from the
 // records when they are asked for, so that they are true at that moment.
 #pragma once

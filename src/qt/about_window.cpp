@@ -42,10 +42,10 @@ QString Lines(const std::string& text)
 
 } // namespace
 
-AboutFrame::AboutFrame(Dispatch& door)
+AboutFrame::AboutFrame(Dispatch& dispatcher)
     : QDialog(nullptr, Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                            Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
-      door_(door)
+      dispatcher_(dispatcher)
 {
     setObjectName("frmAbout");
     setFixedSize(kAboutClientWidth, kAboutClientHeight);
@@ -60,7 +60,7 @@ void AboutFrame::BuildControl(const AboutRow& row)
 {
     using enum AboutControl;
     const auto press = [this, control = row.control] {
-        door_.Act(WindowId::About, [control](Simulation& sim) { ClickAbout(sim, control); });
+        dispatcher_.Act(WindowId::About, [control](Simulation& sim) { ClickAbout(sim, control); });
     };
     QWidget* made = nullptr;
     if (row.control == picIcon)
@@ -98,7 +98,7 @@ void AboutFrame::Mirror(const Simulation& sim)
 
 void AboutFrame::reject()
 {
-    door_.Act(WindowId::About, [](Simulation& sim) { ClickAbout(sim, AboutControl::cmdOK); });
+    dispatcher_.Act(WindowId::About, [](Simulation& sim) { ClickAbout(sim, AboutControl::cmdOK); });
 }
 
 void AboutFrame::paintEvent(QPaintEvent* event)

@@ -16,8 +16,8 @@ class AboutFrame : public QDialog
     Q_OBJECT
 
 public:
-    // The door outlives it.
-    explicit AboutFrame(Dispatch& door);
+    // The dispatcher outlives it.
+    explicit AboutFrame(Dispatch& dispatcher);
 
     void Mirror(const Simulation& sim);
 
@@ -29,7 +29,7 @@ protected:
 private:
     void BuildControl(const AboutRow& row);
 
-    Dispatch& door_;
+    Dispatch& dispatcher_;
     QLabel* lblTitle_ = nullptr;
     QLabel* lblVersion_ = nullptr;
     QLabel* lblDisclaimer_ = nullptr;

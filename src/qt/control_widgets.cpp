@@ -23,8 +23,8 @@ namespace {
 class ControlBuilder
 {
 public:
-    ControlBuilder(ControlWidgets& to, QWidget& panel, Dispatch& door)
-        : widgets_(to), panel_(panel), door_(door)
+    ControlBuilder(ControlWidgets& to, QWidget& panel, Dispatch& dispatcher)
+        : widgets_(to), panel_(panel), dispatcher_(dispatcher)
     {}
 
     // From the bottom of the pile to its top.
@@ -32,7 +32,7 @@ public:
     {
         for (const FrameRow& row : FrameTable()) AddFrame(row);
         AddRulingFrame();
-        const Simulation& sim = door_.Sim();
+        const Simulation& sim = dispatcher_.Sim();
         widgets_.picSelvane = new PictureWidget(kPicSelvane, &panel_);
         widgets_.picSelvane->SetWords([&sim] { return SpokenMainPicture(sim); });
         widgets_.picDemo = new PictureWidget(kPicDemo, &panel_);
@@ -85,17 +85,18 @@ private:
         LabelWidget& label = widgets_.labels[Index(row.id)];
         if (kHandlers.label[Index(row.id)]) {
             label.link = new LinkLabel(TextOf(row.caption), row.place, &panel_);
-            QObject::connect(
-                label.link, &QAbstractButton::clicked, &door_, [door = &door_, id = row.id] {
-                    door->Act(WindowId::Main, [id](Simulation& sim) { ClickLabel(sim, id); });
-                });
+            QObject::connect(label.link, &QAbstractButton::clicked, &dispatcher_,
+                             [dispatcher = &dispatcher_, id = row.id] {
+                                 dispatcher->Act(WindowId::Main,
+                                                 [id](Simulation& sim) { ClickLabel(sim, id); });
+                             });
         } else {
             QWidget& parent = row.id == lblPlanet ? *widgets_.picSelvane : panel_;
             label.caption = new CaptionLabel(row, &parent);
         }
         label.Widget()->setObjectName(TextOf(row.name));
         label.Widget()->setToolTip(TextOf(row.toolTip));
-        if (label.link) SetSpoken(*label.link, Spoken(door_.Sim(), row.id));
+        if (label.link) SetSpoken(*label.link, Spoken(dispatcher_.Sim(), row.id));
     }
 
     void AddMarker()
@@ -119,10 +120,12 @@ private:
         bar->setSingleStep(row.smallChange);
         bar->setPageStep(row.largeChange);
         bar->setValue(row.value);
-        QObject::connect(
-            bar, &QAbstractSlider::valueChanged, &door_, [door = &door_, id = row.id](int value) {
-                door->Act(WindowId::Main, [id, value](Simulation& sim) { Scroll(sim, id, value); });
-            });
+        QObject::connect(bar, &QAbstractSlider::valueChanged, &dispatcher_,
+                         [dispatcher = &dispatcher_, id = row.id](int value) {
+                             dispatcher->Act(WindowId::Main, [id, value](Simulation& sim) {
+                                 Scroll(sim, id, value);
+                             });
+                         });
     }
 
     void AddField(const FieldRow& row)
@@ -134,13 +137,13 @@ private:
         const ScrollBarRow& bar = ScrollBarTable()[Index(row.bar)];
         widgets_.labels[Index(bar.caption)].caption->setBuddy(field);
         // Assistive technology changes a text without editing it.
-        QObject::connect(field, &QLineEdit::textChanged, &door_,
-                         [door = &door_, id = row.id, field](const QString& text) {
+        QObject::connect(field, &QLineEdit::textChanged, &dispatcher_,
+                         [dispatcher = &dispatcher_, id = row.id, field](const QString& text) {
                              field->setModified(true);
-                             door->Act(WindowId::Main,
-                                       [id, typed = text.toStdString()](Simulation& sim) {
-                                           Type(sim, id, typed);
-                                       });
+                             dispatcher->Act(WindowId::Main,
+                                             [id, typed = text.toStdString()](Simulation& sim) {
+                                                 Type(sim, id, typed);
+                                             });
                          });
     }
 
@@ -150,10 +153,12 @@ private:
         widgets_.buttons[Index(row.id)] = button;
         Place(*button, row);
         button->setVisible(row.visible);
-        SetSpoken(*button, Spoken(door_.Sim(), row.id));
-        QObject::connect(button, &QAbstractButton::clicked, &door_, [door = &door_, id = row.id] {
-            door->Act(WindowId::Main, [id](Simulation& sim) { Click(sim, id); });
-        });
+        SetSpoken(*button, Spoken(dispatcher_.Sim(), row.id));
+        QObject::connect(button, &QAbstractButton::clicked, &dispatcher_,
+                         [dispatcher = &dispatcher_, id = row.id] {
+                             dispatcher->Act(WindowId::Main,
+                                             [id](Simulation& sim) { Click(sim, id); });
+                         });
     }
 
     void AddHelpPane()
@@ -162,11 +167,12 @@ private:
         widgets_.txtHelp = pane;
         pane->setObjectName("txtHelp");
         pane->setGeometry(RectOf(kHelpPane));
-        QObject::connect(pane, &HelpPaneWidget::linkClicked, &door_,
-                         [door = &door_](const QString& link) {
-                             door->Act(WindowId::Main, [to = link.toStdString()](Simulation& sim) {
-                                 FollowLink(sim, WindowId::Main, to);
-                             });
+        QObject::connect(pane, &HelpPaneWidget::linkClicked, &dispatcher_,
+                         [dispatcher = &dispatcher_](const QString& link) {
+                             dispatcher->Act(WindowId::Main,
+                                             [to = link.toStdString()](Simulation& sim) {
+                                                 FollowLink(sim, WindowId::Main, to);
+                                             });
                          });
     }
 
@@ -193,7 +199,7 @@ private:
 
     ControlWidgets& widgets_;
     QWidget& panel_;
-    Dispatch& door_;
+    Dispatch& dispatcher_;
 };
 
 } // namespace
@@ -203,12 +209,12 @@ QWidget* LabelWidget::Widget() const
     return link ? static_cast<QWidget*>(link) : static_cast<QWidget*>(caption);
 }
 
-ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door)
+ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& dispatcher)
 {
     InstallAccessibleRoles();
     ControlWidgets widgets;
-    ControlBuilder(widgets, panel, door).Build();
-    widgets.menu = BuildMenus(menuBar, door);
+    ControlBuilder(widgets, panel, dispatcher).Build();
+    widgets.menu = BuildMenus(menuBar, dispatcher);
     return widgets;
 }
 

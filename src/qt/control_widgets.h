@@ -51,6 +51,6 @@ struct ControlWidgets
 
 // Puts the controls on the panel, and fills the menu bar. What the user does to a widget goes to
 // the dispatcher.
-ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& door);
+ControlWidgets BuildControls(QWidget& panel, QMenuBar& menuBar, Dispatch& dispatcher);
 
 } // namespace selvane

@@ -20,7 +20,7 @@ namespace selvane {
 
 namespace {
 
-constexpr int kMenuBarHeight = 20; // pixels; a line of text with its room
+constexpr int kMenuBarHeight = 20; // pixels; a line of text with its margins
 
 // The toolkit's own hint is measured in letters, and fonts are not there yet.
 class PanelArea : public QScrollArea
@@ -33,24 +33,24 @@ public:
 
 } // namespace
 
-MainWindow::MainWindow(Dispatch& door) : area_(new PanelArea(this))
+MainWindow::MainWindow(Dispatch& dispatcher) : area_(new PanelArea(this))
 {
     setObjectName(TextOf(kApplicationTitle));
     setWindowTitle(TextOf(kApplicationTitle));
     setContextMenuPolicy(Qt::NoContextMenu);
-    BuildPanel(door);
-    AddShortcuts(door);
+    BuildPanel(dispatcher);
+    AddShortcuts(dispatcher);
     FitToScreen();
 }
 
-void MainWindow::BuildPanel(Dispatch& door)
+void MainWindow::BuildPanel(Dispatch& dispatcher)
 {
     auto* const panel = new QWidget;
     panel->setObjectName("panel");
     panel->setFixedSize(kClientWidth, kClientHeight);
     auto* const bar = new MenuBar;
     bar->setFixedHeight(kMenuBarHeight);
-    widgets_ = BuildControls(*panel, *bar, door);
+    widgets_ = BuildControls(*panel, *bar, dispatcher);
     setMenuBar(bar);
     mirror_ = std::make_unique<ControlMirror>(widgets_);
 
@@ -79,11 +79,11 @@ void MainWindow::ScrollTo(const QWidget& control)
                          box.height() / 2 + kMargin);
 }
 
-void MainWindow::AddShortcuts(Dispatch& door)
+void MainWindow::AddShortcuts(Dispatch& dispatcher)
 {
     auto* const help = new QShortcut(QKeySequence(Qt::Key_F1), this);
-    connect(help, &QShortcut::activated, &door, [&door] {
-        door.Act(WindowId::Main, [](Simulation& sim) { Choose(sim, mnUserGuide); });
+    connect(help, &QShortcut::activated, &dispatcher, [&dispatcher] {
+        dispatcher.Act(WindowId::Main, [](Simulation& sim) { Choose(sim, mnUserGuide); });
     });
     auto* const menu = new QShortcut(QKeySequence(Qt::Key_F10), this);
     connect(menu, &QShortcut::activated, this, &MainWindow::ActivateMenuBar);
@@ -106,16 +106,17 @@ void MainWindow::AnnouncePictures()
 
 void MainWindow::FitToScreen()
 {
-    const QRect room = screen()->availableGeometry();
+    const QRect available = screen()->availableGeometry();
     const QSize borders = frameGeometry().size() - geometry().size();
     QSize needed(kClientWidth, kClientHeight + kMenuBarHeight);
     needed += borders;
     // A scroll bar that comes for want of height would take its share of the width.
-    if (needed.height() > room.height())
+    if (needed.height() > available.height())
         needed.rwidth() += style()->pixelMetric(QStyle::PM_ScrollBarExtent);
     const QSize outer = QSize(kWindowOuter.width, kWindowOuter.height).expandedTo(needed);
-    resize(outer.boundedTo(room.size()) - borders);
-    move(std::max(kWindowOuter.left, room.left()), std::max(kWindowOuter.top, room.top()));
+    resize(outer.boundedTo(available.size()) - borders);
+    move(std::max(kWindowOuter.left, available.left()),
+         std::max(kWindowOuter.top, available.top()));
 }
 
 bool MainWindow::event(QEvent* event)

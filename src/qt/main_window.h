@@ -16,7 +16,7 @@ class MainWindow : public QMainWindow
 
 public:
     // The dispatcher outlives the window.
-    explicit MainWindow(Dispatch& door);
+    explicit MainWindow(Dispatch& dispatcher);
 
     void Match(const Simulation& sim);
 
@@ -30,8 +30,8 @@ protected:
     bool event(QEvent* event) override;
 
 private:
-    void BuildPanel(Dispatch& door);
-    void AddShortcuts(Dispatch& door);
+    void BuildPanel(Dispatch& dispatcher);
+    void AddShortcuts(Dispatch& dispatcher);
     void ActivateMenuBar();
     void ScrollTo(const QWidget& control);
 

@@ -27,15 +27,16 @@ QString WithAccessKey(std::string_view caption, QString& taken)
     return text;
 }
 
-QAction* AddItem(QMenu& menu, const MenuRow& row, const QString& text, Dispatch& door)
+QAction* AddItem(QMenu& menu, const MenuRow& row, const QString& text, Dispatch& dispatcher)
 {
     if (row.caption.empty()) return menu.addSeparator();
     QAction* const item = menu.addAction(text);
     item->setCheckable(row.checkable);
     item->setChecked(row.checked);
-    QObject::connect(item, &QAction::triggered, &door, [door = &door, id = row.id] {
-        door->Act(WindowId::Main, [id](Simulation& sim) { Choose(sim, id); });
-    });
+    QObject::connect(
+        item, &QAction::triggered, &dispatcher, [dispatcher = &dispatcher, id = row.id] {
+            dispatcher->Act(WindowId::Main, [id](Simulation& sim) { Choose(sim, id); });
+        });
     return item;
 }
 
@@ -47,7 +48,7 @@ void MenuBar::initStyleOption(QStyleOptionMenuItem* option, const QAction* actio
     if (hasFocus() && action == activeAction()) option->state |= QStyle::State_Sunken;
 }
 
-std::array<QAction*, kMenuCount> BuildMenus(QMenuBar& bar, Dispatch& door)
+std::array<QAction*, kMenuCount> BuildMenus(QMenuBar& bar, Dispatch& dispatcher)
 {
     std::array<QAction*, kMenuCount> actions{};
     std::map<std::optional<MenuId>, QString> taken; // access keys, by menu
@@ -55,7 +56,7 @@ std::array<QAction*, kMenuCount> BuildMenus(QMenuBar& bar, Dispatch& door)
         const QString text = WithAccessKey(row.caption, taken[row.under]);
         QAction*& action = actions[Index(row.id)];
         if (row.under)
-            action = AddItem(*actions[Index(*row.under)]->menu(), row, text, door);
+            action = AddItem(*actions[Index(*row.under)]->menu(), row, text, dispatcher);
         else
             action = bar.addMenu(text)->menuAction();
         action->setObjectName(TextOf(row.name));

@@ -19,6 +19,6 @@ protected:
     void initStyleOption(QStyleOptionMenuItem* option, const QAction* action) const override;
 };
 
-std::array<QAction*, kMenuCount> BuildMenus(QMenuBar& bar, Dispatch& door);
+std::array<QAction*, kMenuCount> BuildMenus(QMenuBar& bar, Dispatch& dispatcher);
 
 } // namespace selvane

@@ -24,12 +24,12 @@ Simulation Started(Platform& platform)
 
 Shell::Shell(Platform& platform)
     : sim_(Started(platform)),
-      door_(sim_, platform),
-      window_(door_),
-      timers_(door_),
-      keeper_(door_, window_)
+      dispatcher_(sim_, platform),
+      window_(dispatcher_),
+      timers_(dispatcher_),
+      keeper_(dispatcher_, window_)
 {
-    connect(&door_, &Dispatch::settled, this, &Shell::Match);
+    connect(&dispatcher_, &Dispatch::settled, this, &Shell::Match);
     connect(&keeper_, &WindowKeeper::ended, qApp, &QCoreApplication::quit);
     window_.Match(Sim());
     window_.AnnouncePictures();
@@ -37,7 +37,7 @@ Shell::Shell(Platform& platform)
 
 void Shell::Show()
 {
-    door_.Report([](Simulation&) {}); // timers and windows are made to match
+    dispatcher_.Report([](Simulation&) {}); // timers and windows are made to match
     window_.show();
     window_.centralWidget()->setFocus(); // no control has it before the user's first Tab
     window_.windowHandle()->installEventFilter(this);

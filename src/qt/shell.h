@@ -21,9 +21,9 @@ public:
     void Show();
 
     const Simulation& Sim() const { return sim_; }
-    Dispatch& Door() { return door_; }
+    Dispatch& Dispatcher() { return dispatcher_; }
     MainWindow& Window() { return window_; }
-    Timers& Clockwork() { return timers_; }
+    Timers& EventTimers() { return timers_; }
     WindowKeeper& Windows() { return keeper_; }
 
     // What every event ends with: the screen is made to match the records.
@@ -34,7 +34,7 @@ protected:
 
 private:
     Simulation sim_;
-    Dispatch door_;
+    Dispatch dispatcher_;
     MainWindow window_;
     Timers timers_;
     WindowKeeper keeper_;

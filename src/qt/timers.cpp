@@ -6,7 +6,7 @@
 
 namespace selvane {
 
-Timers::Timers(Dispatch& door) : door_(door)
+Timers::Timers(Dispatch& dispatcher) : dispatcher_(dispatcher)
 {
     for (const TimerRow& row : TimerTable()) {
         QTimer& timer = timers_[Index(row.id)];
@@ -14,7 +14,7 @@ Timers::Timers(Dispatch& door) : door_(door)
         timer.setObjectName(TextOf(row.name));
         timer.setTimerType(Qt::PreciseTimer);
         timer.setInterval(row.intervalMs);
-        connect(&timer, &QTimer::timeout, this, [this, id = row.id] { door_.Tick(id); });
+        connect(&timer, &QTimer::timeout, this, [this, id = row.id] { dispatcher_.Tick(id); });
     }
 }
 
@@ -36,13 +36,13 @@ void Timers::SetWatched(bool watched)
 {
     if (watched_ == watched) return;
     watched_ = watched;
-    Match(door_.Sim().controls.timers);
+    Match(dispatcher_.Sim().controls.timers);
 }
 
 void Timers::StandStill()
 {
     still_ = true;
-    Match(door_.Sim().controls.timers);
+    Match(dispatcher_.Sim().controls.timers);
 }
 
 bool Timers::MayRun(TimerId timer) const

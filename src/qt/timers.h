@@ -16,7 +16,7 @@ class Timers : public QObject
     Q_OBJECT
 
 public:
-    explicit Timers(Dispatch& door);
+    explicit Timers(Dispatch& dispatcher);
 
     void Match(const std::array<Timer, kTimerCount>& records);
 
@@ -29,7 +29,7 @@ public:
 private:
     bool MayRun(TimerId timer) const;
 
-    Dispatch& door_;
+    Dispatch& dispatcher_;
     std::array<QTimer, kTimerCount> timers_;
     bool watched_ = true;
     bool still_ = false;

@@ -12,7 +12,7 @@
 
 namespace selvane {
 
-UserGuideFrame::UserGuideFrame(Dispatch& door) : door_(door)
+UserGuideFrame::UserGuideFrame(Dispatch& dispatcher) : dispatcher_(dispatcher)
 {
     setObjectName("frmUserGuide");
     setWindowTitle(TextOf(kUserGuideCaption));
@@ -29,7 +29,8 @@ void UserGuideFrame::BuildTopics()
         label->setObjectName(TextOf(row.name));
         SetSpoken(*label, Spoken(row.topic));
         connect(label, &LinkLabel::clicked, this, [this, topic = row.topic] {
-            door_.Act(WindowId::UserGuide, [topic](Simulation& sim) { ClickTopic(sim, topic); });
+            dispatcher_.Act(WindowId::UserGuide,
+                            [topic](Simulation& sim) { ClickTopic(sim, topic); });
         });
     }
 }
@@ -40,7 +41,7 @@ void UserGuideFrame::BuildPane()
     txtHelp_->setObjectName("txtHelp");
     txtHelp_->move(kUserGuidePane.left, kUserGuidePane.top);
     connect(txtHelp_, &HelpPaneWidget::linkClicked, this, [this](const QString& link) {
-        door_.Act(WindowId::UserGuide, [to = link.toStdString()](Simulation& sim) {
+        dispatcher_.Act(WindowId::UserGuide, [to = link.toStdString()](Simulation& sim) {
             FollowLink(sim, WindowId::UserGuide, to);
         });
     });

@@ -14,8 +14,8 @@ class UserGuideFrame : public QWidget
     Q_OBJECT
 
 public:
-    // The door outlives it.
-    explicit UserGuideFrame(Dispatch& door);
+    // The dispatcher outlives it.
+    explicit UserGuideFrame(Dispatch& dispatcher);
 
     void Mirror(const Simulation& sim);
 
@@ -27,7 +27,7 @@ private:
     void BuildPane();
     void FitPane();
 
-    Dispatch& door_;
+    Dispatch& dispatcher_;
     HelpPaneWidget* txtHelp_ = nullptr;
 };
 

@@ -14,21 +14,22 @@ namespace selvane {
 
 namespace {
 
-// Makes a window no larger than its screen has room for, and moves it so that all of it is seen.
+// Makes a window no larger than its screen, and moves it so that all of it is seen.
 void KeepOnScreen(QWidget& window)
 {
-    const QRect room = window.screen()->availableGeometry();
+    const QRect available = window.screen()->availableGeometry();
     const QSize borders = window.frameGeometry().size() - window.size();
-    const QSize outer = window.frameGeometry().size().boundedTo(room.size());
+    const QSize outer = window.frameGeometry().size().boundedTo(available.size());
     window.resize(outer - borders);
     const QPoint at = window.pos();
-    window.move(std::clamp(at.x(), room.left(), room.right() + 1 - outer.width()),
-                std::clamp(at.y(), room.top(), room.bottom() + 1 - outer.height()));
+    window.move(std::clamp(at.x(), available.left(), available.right() + 1 - outer.width()),
+                std::clamp(at.y(), available.top(), available.bottom() + 1 - outer.height()));
 }
 
 } // namespace
 
-WindowKeeper::WindowKeeper(Dispatch& door, QWidget& mainWindow) : door_(door), main_(mainWindow)
+WindowKeeper::WindowKeeper(Dispatch& dispatcher, QWidget& mainWindow)
+    : dispatcher_(dispatcher), main_(mainWindow)
 {
     main_.installEventFilter(this);
 }
@@ -80,7 +81,7 @@ bool WindowKeeper::MatchSecondary(Secondary<Frame>& secondary, bool isOpen, cons
 
 template <typename Frame> void WindowKeeper::Open(Secondary<Frame>& secondary)
 {
-    secondary = {std::make_unique<Frame>(door_)};
+    secondary = {std::make_unique<Frame>(dispatcher_)};
     secondary.widget->installEventFilter(this);
     KeepOnScreen(*secondary.widget);
 }
@@ -121,8 +122,8 @@ void WindowKeeper::TellActivated(WindowId window)
     const bool waiting = expected_ && !patience_.hasExpired();
     if (waiting && *expected_ != window) return;
     expected_.reset();
-    if (IsActive(door_.Sim(), window)) return;
-    door_.Report([window](Simulation& sim) { ActivateByUser(sim, window); });
+    if (IsActive(dispatcher_.Sim(), window)) return;
+    dispatcher_.Report([window](Simulation& sim) { ActivateByUser(sim, window); });
 }
 
 bool WindowKeeper::eventFilter(QObject* watched, QEvent* event)
@@ -135,7 +136,7 @@ bool WindowKeeper::eventFilter(QObject* watched, QEvent* event)
         TellActivated(*window);
     }
     if (window && event->type() == QEvent::Close)
-        door_.Report([id = *window](Simulation& sim) { CloseByUser(sim, id); });
+        dispatcher_.Report([id = *window](Simulation& sim) { CloseByUser(sim, id); });
     return handled;
 }
 

@@ -1,5 +1,5 @@
 // WindowKeeper: opens, raises and closes the program's windows on the screen as the records say,
-// and tells the program which of them the user has made the active one or closed.
+// and reports to the program which of them the user has made the active one or closed.
 #pragma once
 
 #include "app/windows.h"
@@ -22,8 +22,8 @@ class WindowKeeper : public QObject
     Q_OBJECT
 
 public:
-    // The door and the main window outlive it.
-    WindowKeeper(Dispatch& door, QWidget& mainWindow);
+    // The dispatcher and the main window outlive it.
+    WindowKeeper(Dispatch& dispatcher, QWidget& mainWindow);
     ~WindowKeeper() override;
 
     void Match(const Simulation& sim);
@@ -54,7 +54,7 @@ private:
     void TellActivated(WindowId window);
     std::optional<WindowId> Which(const QObject* widget) const;
 
-    Dispatch& door_;
+    Dispatch& dispatcher_;
     QWidget& main_;
     Secondary<UserGuideFrame> guide_;
     Secondary<AboutFrame> about_;

@@ -200,10 +200,10 @@ Box Painter::Differences(const Drawing& drawing, TextMasks& texts) const
     std::span<const Stroke> before = painted_.Strokes();
     std::span<const Stroke> now = drawing.Strokes();
     // As a rule the scales and the texts are those of the drawing before, and the strokes alone
-    // tell.
-    const bool strokesTell = drawing.HasTheSameScalesAndTexts(painted_);
+    // decide.
+    const bool strokesDecide = drawing.HasTheSameScalesAndTexts(painted_);
     const auto same = [&](const Stroke& one, const Stroke& other) {
-        return strokesTell ? one == other : Same(painted_, one, drawing, other);
+        return strokesDecide ? one == other : Same(painted_, one, drawing, other);
     };
     const auto [from, fromNow] = std::ranges::mismatch(before, now, same);
     before = {from, before.end()};

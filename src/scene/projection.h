@@ -41,8 +41,9 @@ public:
     // The same with the sine and cosine of the angle in the plane worked out beforehand.
     Projected operator()(double radius, double cosInPlane, double sinInPlane) const;
 
-    // True only where the projected point has z < 0, told by plain rotation matrices at a fraction
-    // of the cost. False wherever the tolerance or the two-branch rule could decide otherwise.
+    // True only where the projected point has z < 0, judged by plain rotation matrices at a
+    // fraction of the cost. False wherever the tolerance or the two-branch rule could decide
+    // otherwise.
     bool IsSurelyBehind(double radius, double cosInPlane, double sinInPlane) const;
 
 private:

@@ -52,7 +52,7 @@ private:
 // A character of a code page in UTF-8; empty where the browser does not know it.
 std::string DecodeOnPage(std::int32_t codePage, std::string_view character);
 
-// A page cannot go on without memory; it is told why the program stops.
+// A page cannot go on without memory; it says why the program stops.
 void StopWithoutMemory();
 
 } // namespace selvane::web

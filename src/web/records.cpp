@@ -79,12 +79,12 @@ void Write(Json& json, std::optional<Colour> colour)
 
 // Records and table stand in the same order.
 template <typename Records, typename Table>
-void WriteChanged(Json& json, std::string_view key, const Records& records, const Records* told,
+void WriteChanged(Json& json, std::string_view key, const Records& records, const Records* sent,
                   const Table& table)
 {
     json.Key(key).Open('{');
     for (std::size_t at = 0; at < records.size(); ++at) {
-        if (told && Shown(records[at]) == Shown((*told)[at])) continue;
+        if (sent && Shown(records[at]) == Shown((*sent)[at])) continue;
         json.Key(table[at].name);
         Write(json, records[at]);
     }
@@ -135,14 +135,14 @@ std::string_view NameOf(WindowId window)
     return kNames[Index(window)];
 }
 
-void WriteWindows(Json& json, const Windows& windows, const Windows* told)
+void WriteWindows(Json& json, const Windows& windows, const Windows* sent)
 {
     const bool guide = IsLoaded(windows, WindowId::UserGuide);
     const bool about = IsLoaded(windows, WindowId::About);
-    const bool guideWas = told && IsLoaded(*told, WindowId::UserGuide);
-    const bool aboutWas = told && IsLoaded(*told, WindowId::About);
+    const bool guideWas = sent && IsLoaded(*sent, WindowId::UserGuide);
+    const bool aboutWas = sent && IsLoaded(*sent, WindowId::About);
     if (guide &&
-        (!guideWas || !SameDocument(windows.frmUserGuide.txtHelp, told->frmUserGuide.txtHelp))) {
+        (!guideWas || !SameDocument(windows.frmUserGuide.txtHelp, sent->frmUserGuide.txtHelp))) {
         json.Key("guide");
         Write(json, windows.frmUserGuide.txtHelp);
     }
@@ -152,9 +152,9 @@ void WriteWindows(Json& json, const Windows& windows, const Windows* told)
     }
     if (guideWas && !guide) json.Key("guide").Null();
     if (aboutWas && !about) json.Key("about").Null();
-    if (!windows.order.empty() && (!told || told->order != windows.order))
+    if (!windows.order.empty() && (!sent || sent->order != windows.order))
         json.Field("active", NameOf(windows.order.back()));
-    if (told && told->raises != windows.raises)
+    if (sent && sent->raises != windows.raises)
         json.Field("raised", static_cast<int>(windows.raises));
     if (!windows.running) json.Field("running", false);
 }
@@ -206,9 +206,9 @@ RecordTeller::MarkerPlace RecordTeller::PlaceOf(const Simulation& sim)
 
 void RecordTeller::WriteSpoken(Json& json, std::string_view element, const SpokenText& text)
 {
-    auto& told = spoken_[std::string(element)];
-    if (told == text) return;
-    told = text;
+    auto& sent = spoken_[std::string(element)];
+    if (sent == text) return;
+    sent = text;
     json.Key(element).Open('[').Value(text.name).Value(text.description).Close(']');
 }
 
@@ -240,8 +240,8 @@ void RecordTeller::WriteSpoken(Json& json, const Simulation& sim)
 std::string RecordTeller::Changes(const Simulation& sim, std::vector<PagePlatform::Order>& orders)
 {
     const Controls& now = sim.controls;
-    const Controls* const told = told_ ? &told_->controls : nullptr;
-    const auto before = [told](auto member) { return told ? &(told->*member) : nullptr; };
+    const Controls* const sent = sent_ ? &sent_->controls : nullptr;
+    const auto before = [sent](auto member) { return sent ? &(sent->*member) : nullptr; };
     Json json;
     json.Open('{');
     WriteChanged(json, "bars", now.scrollBars, before(&Controls::scrollBars), ScrollBarTable());
@@ -252,23 +252,23 @@ std::string RecordTeller::Changes(const Simulation& sim, std::vector<PagePlatfor
     WriteChanged(json, "menus", now.menu, before(&Controls::menu), MenuTable());
 
     const MarkerPlace marker = PlaceOf(sim);
-    if (!told_ || told_->marker != marker) {
+    if (!sent_ || sent_->marker != marker) {
         json.Key("marker").Open('{').Field("left", marker.left).Field("top", marker.top);
         json.Key("colour");
         Write(json, marker.colour);
         json.Field("visible", marker.visible).Close('}');
     }
-    if (!told || !SameDocument(told->txtHelp, now.txtHelp)) {
+    if (!sent || !SameDocument(sent->txtHelp, now.txtHelp)) {
         json.Key("pane");
         Write(json, now.txtHelp);
     }
-    WriteWindows(json, sim.windows, told_ ? &told_->windows : nullptr);
-    if (!told_ || told_->ruling != sim.state.ShapeInput)
+    WriteWindows(json, sim.windows, sent_ ? &sent_->windows : nullptr);
+    if (!sent_ || sent_->ruling != sim.state.ShapeInput)
         json.Field("ruling", RulingRow(sim.state.ShapeInput));
     WriteSpoken(json, sim);
     WriteOrders(json, orders);
     orders.clear();
-    told_ = Told{now, sim.windows, marker, sim.state.ShapeInput};
+    sent_ = Sent{now, sim.windows, marker, sim.state.ShapeInput};
     return json.Close('}').Text();
 }
 

@@ -28,7 +28,7 @@ private:
 
         bool operator==(const MarkerPlace&) const = default;
     };
-    struct Told
+    struct Sent
     {
         Controls controls;
         Windows windows;
@@ -40,7 +40,7 @@ private:
     void WriteSpoken(Json& json, const Simulation& sim);
     void WriteSpoken(Json& json, std::string_view element, const SpokenText& text);
 
-    std::optional<Told> told_;                              // nothing before the first time
+    std::optional<Sent> sent_;                              // nothing before the first time
     std::map<std::string, SpokenText, std::less<>> spoken_; // by element
 };
 

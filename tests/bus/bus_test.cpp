@@ -1,4 +1,4 @@
-// Drives the program by the accessibility bus alone: what a screen reader is told, and what its
+// Drives the program by the accessibility bus alone: what a screen reader says, and what its
 // user can do. Each test starts the program anew; run.sh gives it a desktop.
 #include <algorithm>
 #include <atspi/atspi.h>
@@ -226,7 +226,7 @@ protected:
         return found;
     }
 
-    // Those that share a name are told apart by their order.
+    // Those that share a name differ by their order.
     Control Find(AtspiRole role, const std::string& name, std::size_t which = 0) const
     {
         const std::vector<Control> found = All(role, name);
@@ -384,7 +384,7 @@ TEST_F(Bus, TheFlightStopsAndIsStepped)
     PressButton("Step back");
     ExpectSoon(anomaly, testing::Ne(stopped));
     EXPECT_LT(std::stod(anomaly()), std::stod(stopped));
-    ExpectSoon(picture, testing::Ne(words)); // told anew after a step
+    ExpectSoon(picture, testing::Ne(words)); // spoken anew after a step
     Bar("Inclination (Deg.)").SetValue(0);   // a low orbit in the plane of the Sun's light
     for (int turn = 0; turn < 360 && picture().find("in the planet's shadow") == words.npos;
          turn += 30) {

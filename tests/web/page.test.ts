@@ -81,7 +81,7 @@ test("Tab walks in the reading order; arrows, page keys and Home move a bar", as
   await page.close();
 });
 
-test("the menu bar is walked by keys, and its checks are told", async () => {
+test("the menu bar is walked by keys, and its checks are spoken", async () => {
   const { page } = await openTestPage(browser);
   await page.focus("#txtPeri");
   await page.keyboard.press("F10");
@@ -289,7 +289,7 @@ async function faultOf(prepare: () => void): Promise<string> {
   return words;
 }
 
-test("a fault is told in one sentence", async () => {
+test("a fault is shown in one sentence", async () => {
   assert.match(await faultOf(() => Reflect.deleteProperty(window, "WebAssembly")),
                /^Selvane needs a browser with WebAssembly: .*\.$/);
   assert.match(await faultOf(() => {
@@ -314,10 +314,10 @@ test("a fault is told in one sentence", async () => {
       window.pageTest.call("input", 0x30000000);
       return "";
     } catch (fault) {
-      return (fault as Error).constructor.name === "RuntimeError" ? "a trap" : "told";
+      return (fault as Error).constructor.name === "RuntimeError" ? "a trap" : "shown";
     }
   });
-  assert.equal(said, "told", "the program says itself that no memory is left");
+  assert.equal(said, "shown", "the program says itself that no memory is left");
   await page.setJavaScriptEnabled(false);
   await page.goto(pathToFileURL(kPage).href);
   assert.match(await page.$eval("noscript", (words) => words.textContent ?? ""), /needs JavaScript/);

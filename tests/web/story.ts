@@ -10,9 +10,9 @@ export function readStory(file: string): StoryLine[] {
   const lines: StoryLine[] = [];
   readFileSync(file, "utf8").split("\n").forEach((line, at) => {
     if (line.trim() === "" || line.startsWith("#")) return;
-    const told = /^(expect|near|drawn) ([^=]*)=(.*)$/.exec(line);
-    const [, kind, key = "", value = ""] = told ?? [];
-    if (told) lines.push({ number: at + 1, kind: kind as "expect", key, value });
+    const parts = /^(expect|near|drawn) ([^=]*)=(.*)$/.exec(line);
+    const [, kind, key = "", value = ""] = parts ?? [];
+    if (parts) lines.push({ number: at + 1, kind: kind as "expect", key, value });
     else {
       const [, times = "1", action = line] = /^(\d+) \* (.*)$/.exec(line) ?? [];
       for (let each = 0; each < Number(times); ++each) lines.push({ number: at + 1, action });
@@ -29,9 +29,9 @@ export function holds(kind: "expect" | "near" | "drawn", value: string,
     const [number = NaN, within = NaN] = value.split(" ").map(Number);
     return Math.abs(Number(actual) - number) <= within;
   }
-  const words = actual.split(" "), told = value.split(" "); // a stroke, to two decimals
-  return words.length === told.length && words.every((word, at) => {
-    const like = told[at] ?? "";
+  const words = actual.split(" "), parts = value.split(" "); // a stroke, to two decimals
+  return words.length === parts.length && words.every((word, at) => {
+    const like = parts[at] ?? "";
     return word === like || Math.abs(Number(word) - Number(like)) <= 0.0101;
   });
 }

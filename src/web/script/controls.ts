@@ -66,7 +66,7 @@ export class Label {
     setVisible(this.element, record.visible);
   }
 
-  // A text that has no room is told whole.
+  // A text that does not fit is spoken whole.
   private completeToolTip(): void {
     const { words } = this;
     const whole = words.scrollWidth > words.clientWidth ? `${words.textContent ?? ""}\n` : "";

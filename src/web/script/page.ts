@@ -194,10 +194,10 @@ export class Page {
     if (this.dispatcher.isActive("about")) this.about?.dialog.bringUp();
   }
 
-  // What is told of a window that is not open waits until it is.
-  private speak(told: ByName<Spoken>, justOpened: boolean): void {
-    for (const [name, words] of Object.entries(told)) this.spoken.set(name, words);
-    for (const [name, words] of justOpened ? this.spoken : Object.entries(told)) {
+  // What is spoken of a window that is not open waits until it is.
+  private speak(changed: ByName<Spoken>, justOpened: boolean): void {
+    for (const [name, words] of Object.entries(changed)) this.spoken.set(name, words);
+    for (const [name, words] of justOpened ? this.spoken : Object.entries(changed)) {
       const element = this.speakerOf(name);
       if (!element) continue;
       setAttribute(element, element instanceof HTMLImageElement ? "alt" : "aria-label", words[0]);

@@ -61,9 +61,9 @@ export type Spoken = readonly [name: string, description: string];
 export type WindowName = "main" | "guide" | "about";
 export type Request = Readonly<{ kind: "link"; target: string }> |
   Readonly<{ kind: "message"; text: string; title: string }>;
-export type ByName<Told> = Readonly<Record<string, Told>>;
+export type ByName<Value> = Readonly<Record<string, Value>>;
 
-// What differs from what was told before; a control that stands as it was is not there.
+// What differs from what was sent before; a control that stands as it was is not there.
 export type Changes = Readonly<{
   bars: ByName<BarRecord>;
   fields: ByName<FieldRecord>;
