@@ -72,6 +72,8 @@ const parts = {
   licence: readFileSync(join(root, "LICENSE"), "utf8").split("\n").filter(Boolean)
     .slice(0, 2).join(", "),
   fontLicence: "Copyright 2010-2013 by tyPoland Lukasz Dziedzic, SIL Open Font License 1.1.",
+  unpackerLicence: readFileSync(join(web, "node_modules/fflate/LICENSE"), "utf8").split("\n")
+    .filter(Boolean).slice(0, 2).join(", "),
   policy: ["default-src 'none'", `script-src ${hashOf(script)} 'wasm-unsafe-eval'`,
            // Documents bring the measures of their paragraphs as style attributes.
            `style-src-elem ${hashOf(style)}`, "style-src-attr 'unsafe-inline'",

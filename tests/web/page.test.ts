@@ -289,6 +289,14 @@ async function faultOf(prepare: () => void): Promise<string> {
   return words;
 }
 
+test("a browser that cannot unpack a stream starts the program all the same", async () => {
+  const page = await browser.newPage();
+  await page.evaluateOnNewDocument(() => Reflect.deleteProperty(window, "DecompressionStream"));
+  await page.goto(pathToFileURL(kPage).href);
+  await page.waitForSelector("#picSelvane");
+  await page.close();
+});
+
 test("a fault is shown in one sentence", async () => {
   assert.match(await faultOf(() => Reflect.deleteProperty(window, "WebAssembly")),
                /^Selvane needs a browser with WebAssembly: .*\.$/);

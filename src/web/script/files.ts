@@ -1,4 +1,5 @@
 // What is packed into the page: the program and the documents that it reads.
+import { gunzipSync } from "fflate";
 
 // A file's name and bytes, each behind its length in four bytes, the low one first.
 function split(packed: ArrayBuffer): Map<string, Uint8Array> {
@@ -14,8 +15,13 @@ function split(packed: ArrayBuffer): Map<string, Uint8Array> {
   return files;
 }
 
-export async function unpackFiles(base64: string): Promise<Map<string, Uint8Array>> {
-  const bytes = Uint8Array.from(atob(base64), (letter) => letter.charCodeAt(0));
+// A browser of before 2023 may not unpack by itself.
+async function unzip(bytes: Uint8Array<ArrayBuffer>): Promise<ArrayBuffer> {
+  if (typeof DecompressionStream !== "function") return gunzipSync(bytes).buffer as ArrayBuffer;
   const unpacked = new Blob([bytes]).stream().pipeThrough(new DecompressionStream("gzip"));
-  return split(await new Response(unpacked).arrayBuffer());
+  return new Response(unpacked).arrayBuffer();
+}
+
+export async function unpackFiles(base64: string): Promise<Map<string, Uint8Array>> {
+  return split(await unzip(Uint8Array.from(atob(base64), (letter) => letter.charCodeAt(0))));
 }
