@@ -312,9 +312,9 @@ TEST(RichTextFormat, ParagraphsTakeWhatHoldsAtTheirEnd)
     EXPECT_EQ(ParagraphAt(document, 1).format.alignment, ParagraphAlignment::Justified);
     EXPECT_EQ(ParagraphAt(document, 2).format, ParagraphFormat{});
     std::string spacings; // at least, exactly, and multiples of a line, which have no sign
-    for (const Paragraph* paragraph : Paragraphs(
-             ReadBody("\\sl360 a\\par\\sl-240 b\\par\\slmult1 c\\par\\sl-99999\\slmult0 d\\par")
-                 .blocks))
+    const Document spaced =
+        ReadBody("\\sl360 a\\par\\sl-240 b\\par\\slmult1 c\\par\\sl-99999\\slmult0 d\\par");
+    for (const Paragraph* paragraph : Paragraphs(spaced.blocks))
         spacings += std::to_string(paragraph->format.lineSpacing) + ' ';
     EXPECT_EQ(spacings, "360 -240 240 -31680 ");
     std::string levels;
