@@ -24,16 +24,24 @@ struct Canvas
     std::vector<std::uint32_t> part{}; // bytes red, green, blue, 255
 };
 
+// The box, and where its pixels are.
+struct Painted
+{
+    std::int32_t left, top, width, height;
+    const std::uint32_t* pixels;
+};
+
 struct Page
 {
     Simulation sim;
     PagePlatform platform;
     PageTextMasks masks;
-    RecordTeller teller;
+    ChangeWriter writer;
     std::array<Canvas, 2> canvases{
         {{{kPicSelvane.place.width, kPicSelvane.place.height, kPicSelvane.background}},
          {{kPicDemo.place.width, kPicDemo.place.height, kPicDemo.background}}}};
     std::string output;
+    Painted painted{}; // what the page reads after a call of paint
 };
 
 Page& ThePage()
@@ -66,13 +74,6 @@ void CopyPart(Canvas& canvas, const raster::Box& box)
         to = std::transform(from + box.across.first, from + box.across.end, to, Swapped);
     }
 }
-
-// The box, and where its pixels are.
-struct Painted
-{
-    std::int32_t left, top, width, height;
-    const std::uint32_t* pixels;
-};
 
 Painted PaintedPart(Canvas& canvas, const raster::Drawing& drawing, double scale)
 {
@@ -136,17 +137,16 @@ EXPORT(tables) int Tables()
 EXPORT(changes) int Changes()
 {
     Page& page = ThePage();
-    return Output(page.teller.Changes(page.sim, page.platform.orders));
+    return Output(page.writer.Changes(page.sim, page.platform.orders));
 }
 
 // The picture is 0 or 1, in the order of the table; what comes back stays until the next call.
 EXPORT(paint) const Painted* Paint(int picture, double scale)
 {
-    static Painted painted;
     Page& page = ThePage();
-    painted = picture == 0 ? PaintedPart(page.canvases[0], page.sim.picSelvane.drawing, scale)
-                           : PaintedPart(page.canvases[1], page.sim.picDemo.drawing, scale);
-    return &painted;
+    page.painted = picture == 0 ? PaintedPart(page.canvases[0], page.sim.picSelvane.drawing, scale)
+                                : PaintedPart(page.canvases[1], page.sim.picDemo.drawing, scale);
+    return &page.painted;
 }
 
 // The program's entry points; what a user could not do changes nothing.

@@ -194,7 +194,7 @@ int PixelAt(double coordinate, double scaleStart, double scaleLength, int pixels
 
 } // namespace
 
-RecordTeller::MarkerPlace RecordTeller::PlaceOf(const Simulation& sim)
+ChangeWriter::MarkerPlace ChangeWriter::PlaceOf(const Simulation& sim)
 {
     const Marker& record = sim.controls.lblSat;
     const Picture& picture = sim.picSelvane;
@@ -204,7 +204,7 @@ RecordTeller::MarkerPlace RecordTeller::PlaceOf(const Simulation& sim)
             record.back, record.visible};
 }
 
-void RecordTeller::WriteSpoken(Json& json, std::string_view element, const SpokenText& text)
+void ChangeWriter::WriteSpoken(Json& json, std::string_view element, const SpokenText& text)
 {
     auto& sent = spoken_[std::string(element)];
     if (sent == text) return;
@@ -212,7 +212,7 @@ void RecordTeller::WriteSpoken(Json& json, std::string_view element, const Spoke
     json.Key(element).Open('[').Value(text.name).Value(text.description).Close(']');
 }
 
-void RecordTeller::WriteSpoken(Json& json, const Simulation& sim)
+void ChangeWriter::WriteSpoken(Json& json, const Simulation& sim)
 {
     const auto controls = [&](const auto& table) {
         for (const auto& row : table) WriteSpoken(json, row.name, Spoken(sim, row.id));
@@ -237,7 +237,7 @@ void RecordTeller::WriteSpoken(Json& json, const Simulation& sim)
     json.Close('}');
 }
 
-std::string RecordTeller::Changes(const Simulation& sim, std::vector<PagePlatform::Order>& orders)
+std::string ChangeWriter::Changes(const Simulation& sim, std::vector<PagePlatform::Order>& orders)
 {
     const Controls& now = sim.controls;
     const Controls* const sent = sent_ ? &sent_->controls : nullptr;

@@ -12,7 +12,7 @@
 
 namespace selvane::web {
 
-class RecordTeller
+class ChangeWriter
 {
 public:
     // What differs from the last time, and what the page is to do; `orders` is empty then.
