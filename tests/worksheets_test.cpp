@@ -3,17 +3,18 @@
 // its end on one program, whatever was done with the program before.
 
 #include "app/control_table.h"
+#include "app/number_text.h"
 #include "claims.h"
 #include "help_documents.h"
 #include "replay/monkey.h"
-#include "sum.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 #include <map>
+#include <muParser.h>
 #include <numeric>
 #include <random>
 #include <set>
@@ -23,22 +24,15 @@ namespace {
 
 using claims::Evened;
 using replay::Player;
-using rich_text::Block;
-using rich_text::Cell;
-using rich_text::Paragraph;
-using rich_text::Row;
-using rich_text::Run;
-using rich_text::Table;
+using rich_text::Paragraph, rich_text::Table;
 
+constexpr const char* kLessons = SELVANE_TESTS "/claims.txt";
 constexpr const char* kClaims = SELVANE_TESTS "/worksheet_claims.txt";
 constexpr const char* kSums = SELVANE_TESTS "/worksheet_sums.txt";
 
-const std::vector<std::string> kWorksheets = {"worksheets/Period1.rtf", "worksheets/Period2.rtf",
-                                              "worksheets/Period3.rtf"};
-const std::vector<std::string> kAnswers = {"worksheets/Period1Answers.rtf",
-                                           "worksheets/Period2Answers.rtf",
-                                           "worksheets/Period3Answers.rtf"};
-
+const std::vector<std::string> kWorksheets = {"worksheets/Period1", "worksheets/Period2",
+                                              "worksheets/Period3"};
+constexpr const char* kAnswers = "Answers.rtf"; // behind the name of a worksheet
 constexpr const char* kTeachers = "Teachers.rtf";
 
 // What a quote may be from: a paragraph, or a row of a table with its cells joined by a blank.
@@ -51,7 +45,7 @@ struct Passage
 
 void Append(const Paragraph& paragraph, Passage& passage)
 {
-    for (const Run& run : paragraph.runs) {
+    for (const rich_text::Run& run : paragraph.runs) {
         passage.text += run.text;
         if (run.format.colour == rich_text::Colour{0, 0, 192}) passage.answers += run.text;
         if (run.format.bold && paragraph.format.headingLevel == 0) passage.bold += run.text + ' ';
@@ -66,14 +60,14 @@ const std::vector<Passage>& Passages(const std::string& document)
     const auto [entry, isNew] = read.try_emplace(document);
     std::vector<Passage>& passages = entry->second;
     if (!isNew) return passages;
-    for (const Block& block : ReadDocument(document).blocks) {
+    for (const rich_text::Block& block : ReadDocument(document).blocks) {
         if (const auto* paragraph = std::get_if<Paragraph>(&block.content)) {
             Append(*paragraph, passages.emplace_back());
             continue;
         }
-        for (const Row& row : std::get<Table>(block.content).rows) {
+        for (const auto& row : std::get<Table>(block.content).rows) {
             Passage& passage = passages.emplace_back();
-            for (const Cell& cell : row.cells)
+            for (const auto& cell : row.cells)
                 for (const Paragraph* paragraph : Paragraphs(cell.blocks))
                     Append(*paragraph, passage);
         }
@@ -81,13 +75,6 @@ const std::vector<Passage>& Passages(const std::string& document)
     for (Passage& passage : passages) passage.text = Evened(passage.text);
     return passages;
 }
-
-// The claim or the sum that the numbers of a passage rest on.
-struct Support
-{
-    std::string document, quote;
-    std::string numbers; // the value, and what it was worked out from
-};
 
 struct Sum
 {
@@ -120,15 +107,18 @@ std::vector<Sum> Sums()
     return sums;
 }
 
-std::vector<Support> Supports()
+// What the numbers of a passage that has the quote rest on: values, and what they were worked out
+// from.
+std::multimap<std::string, std::string> NumbersByQuote(const std::string& document)
 {
-    std::vector<Support> supports;
+    std::multimap<std::string, std::string> numbers;
     for (const claims::Page& page : claims::ReadPages(kClaims))
-        for (const claims::Claim& claim : page.Claims())
-            supports.push_back({page.document, claim.quote, claim.value});
+        if (page.document == document)
+            for (const claims::Claim& claim : page.Claims())
+                numbers.emplace(claim.quote, claim.value);
     for (const Sum& sum : Sums())
-        supports.push_back({sum.document, sum.quote, sum.value + ' ' + sum.expression});
-    return supports;
+        if (sum.document == document) numbers.emplace(sum.quote, sum.value + ' ' + sum.expression);
+    return numbers;
 }
 
 // As they are written, in order; a sign is left out.
@@ -137,14 +127,34 @@ std::vector<std::string> NumbersIn(const std::string& text)
     constexpr const char* kDigits = "0123456789";
     std::vector<std::string> numbers;
     for (auto at = text.find_first_of(kDigits); at != std::string::npos;) {
-        auto end = text.find_first_not_of(kDigits, at);
-        if (end != std::string::npos && text[end] == '.')
-            if (const auto last = text.find_first_not_of(kDigits, end + 1); last != end + 1)
-                end = last;
+        const auto end = text.find_first_not_of("0123456789.", at);
         numbers.push_back(text.substr(at, end - at));
+        if (numbers.back().ends_with('.')) numbers.back().pop_back();
         at = text.find_first_of(kDigits, end);
     }
     return numbers;
+}
+
+// The value of a calculation as a learner writes it, with angles in degrees.
+double ValueOf(const std::string& expression)
+{
+    constexpr double kDegree = std::numbers::pi / 180;
+    mu::Parser parser;
+    parser.DefineConst("pi", std::numbers::pi);
+    parser.DefineFun("cbrt", static_cast<double (*)(double)>(std::cbrt));
+    parser.DefineFun("sin", [](double angle) { return std::sin(angle * kDegree); });
+    parser.DefineFun("cos", [](double angle) { return std::cos(angle * kDegree); });
+    parser.DefineFun("tan", [](double angle) { return std::tan(angle * kDegree); });
+    parser.DefineFun("asin", [](double value) { return std::asin(value) / kDegree; });
+    parser.DefineFun("acos", [](double value) { return std::acos(value) / kDegree; });
+    parser.DefineFun("atan", [](double value) { return std::atan(value) / kDegree; });
+    try {
+        parser.SetExpr(expression);
+        return parser.Eval();
+    } catch (const mu::ParserError& error) {
+        ADD_FAILURE() << expression << ": " << error.GetMsg();
+        return 0;
+    }
 }
 
 std::string Rounded(double value, const std::string& like)
@@ -190,6 +200,36 @@ double SecondsToWait(const std::string& actions, int steps)
     return milliseconds / 1000;
 }
 
+// The satellite's place against spherical astronomy, its pace against the area law, over one lap.
+struct Misses
+{
+    double ascension = 0, latitude = 0, pace = 0; // degrees, degrees, share of the true time
+};
+
+Misses FlyALap(const std::string& actions)
+{
+    const double degree = std::numbers::pi / 180;
+    Player player;
+    claims::Play(player, actions);
+    const SimState& state = player.Program().state;
+    const double tilt = Number(player.Program(), txtIncl) * degree;
+    Misses worst;
+    for (int step = 0; step < 360; ++step) {
+        claims::Play(player, "tick tmrSat");
+        const double along = (state.SatDeg + 90) * degree, anomaly = state.TrueAnomaly * degree;
+        const double east = std::atan2(std::sin(along) * std::cos(tilt), std::cos(along)) / degree;
+        const double north = std::asin(std::sin(tilt) * std::sin(along)) / degree;
+        const double parameter = state.SMajAxis * (1 - state.Ecc * state.Ecc);
+        const double radius = parameter / (1 + state.Ecc * std::cos(anomaly));
+        const double sideways = std::sqrt(state.PlanetMu * parameter) / radius;
+        worst.ascension = std::max(worst.ascension,
+                                   std::fabs(std::remainder(state.SatRA - state.RAAN - east, 360)));
+        worst.latitude = std::max(worst.latitude, std::fabs(state.SatLat - north));
+        worst.pace = std::max(worst.pace, 1 - sideways / state.SatVelocity);
+    }
+    return worst;
+}
+
 bool Says(const std::string& document, const std::string& words)
 {
     const std::vector<Passage>& passages = Passages(document);
@@ -203,15 +243,14 @@ std::vector<int> NumbersBetween(const std::string& document, const std::string& 
                                 const std::string& after)
 {
     std::vector<int> found;
-    for (const Passage& passage : Passages(document)) {
-        const std::string& text = passage.text;
-        for (auto at = text.find(before); at != std::string::npos; at = text.find(before, at + 1)) {
-            const std::string rest = text.substr(at + before.size());
-            const auto end = rest.find_first_not_of("0123456789");
-            if (end != 0 && end != std::string::npos && rest.substr(end).starts_with(after))
-                found.push_back(std::atoi(rest.c_str()));
+    const std::string format = before + "%d" + after + "%n";
+    for (const Passage& passage : Passages(document))
+        for (auto at = passage.text.find(before); at != std::string::npos;
+             at = passage.text.find(before, at + 1)) {
+            int number = 0, end = 0;
+            std::sscanf(passage.text.c_str() + at, format.c_str(), &number, &end);
+            if (end > 0) found.push_back(number);
         }
-    }
     return found;
 }
 
@@ -255,88 +294,103 @@ TEST(Worksheets, ShowWhatTheySayAfterAnything)
     }
 }
 
-TEST(Worksheets, ContainTheWordsOfTheirClaims)
+TEST(Worksheets, ContainTheWordsOfTheirClaimsAndSoDoTheLessons)
 {
-    for (const claims::Page& page : claims::ReadPages(kClaims)) {
-        EXPECT_TRUE(Says(page.document, page.firstWords)) << page.document << page.firstWords;
-        for (const claims::Claim& claim : page.Claims())
-            EXPECT_TRUE(Says(page.document, claim.quote)) << page.document << ": " << claim.quote;
-    }
+    for (const char* file : {kClaims, kLessons})
+        for (const claims::Page& page : claims::ReadPages(file)) {
+            EXPECT_TRUE(Says(page.document, page.firstWords)) << page.document << page.firstWords;
+            for (const claims::Claim& claim : page.Claims())
+                EXPECT_TRUE(Says(page.document, claim.quote))
+                    << page.document << ": " << claim.quote;
+        }
 }
 
 TEST(Worksheets, WorkOutByHandWhatACalculatorGives)
 {
     for (const Sum& sum : Sums()) {
         EXPECT_TRUE(Says(sum.document, sum.quote)) << sum.document << ": " << sum.quote;
-        const std::optional<double> value = ValueOf(sum.expression);
-        ASSERT_TRUE(value) << sum.expression;
-        EXPECT_EQ(Rounded(*value, sum.value), sum.value) << sum.expression;
+        EXPECT_EQ(Rounded(ValueOf(sum.expression), sum.value), sum.value) << sum.expression;
     }
 }
 
 TEST(Worksheets, HaveAClaimOrASumForEachNumberOfAnAnswer)
 {
-    const std::vector<Support> supports = Supports();
-    std::vector<std::string> documents = kAnswers;
-    documents.emplace_back(kTeachers); // its numbers stand in bold
+    std::vector<std::string> documents{kTeachers}; // its numbers stand in bold
+    for (const std::string& sheet : kWorksheets) documents.push_back(sheet + kAnswers);
     for (const std::string& document : documents) {
+        const auto supports = NumbersByQuote(document);
         for (const Passage& passage : Passages(document)) {
             std::string supported;
-            for (const Support& support : supports)
-                if (support.document == document &&
-                    passage.text.find(support.quote) != std::string::npos)
-                    supported += support.numbers + ' ';
-            const std::vector<std::string> listed = NumbersIn(supported);
-            const std::set<std::string> known(listed.begin(), listed.end());
-            const std::string& said = document == kTeachers ? passage.bold : passage.answers;
-            for (const std::string& number : NumbersIn(said))
-                EXPECT_TRUE(known.contains(number))
-                    << document << ": " << number << " in: " << passage.text;
+            for (const auto& [quote, numbers] : supports)
+                if (passage.text.find(quote) != std::string::npos) supported += numbers + ' ';
+            for (const std::string& number :
+                 NumbersIn(document == kTeachers ? passage.bold : passage.answers))
+                EXPECT_THAT(NumbersIn(supported), testing::Contains(number))
+                    << document << ": " << passage.text;
         }
     }
 }
 
-// Both pages say how far the simplified read-outs miss; the other one is held against the program.
-TEST(Worksheets, TellTeachersWhatLearnersRead)
+// The satellite's lap on the screen takes four milliseconds for a second in space.
+TEST(Worksheets, TellTeachersAndLearnersHowFarTheSimplifiedReadOutsMiss)
 {
-    for (const char* words :
-         {"by 1.2 % on the standard orbit, and by 32 % on the Molniya orbit, whose lap is 19 % too "
-          "quick",
-          "up to 4.1° at inclination 30, 19.5° at 60", "3.8° at 60", "46.9° at RAAN 180"})
-        for (const char* page : {kTeachers, "OrbitParameters.rtf"})
+    const Misses low = FlyALap("scroll sclIncl 30"), standard = FlyALap(""),
+                 polar = FlyALap("scroll sclIncl 90"), molniya = FlyALap("menu mnMoly");
+    const auto degrees = [](double angle) { return FixedNumber(angle, 1) + "°"; };
+    const auto percent = [](double share, int decimals) {
+        return FixedNumber(100 * share, decimals) + " %";
+    };
+    Player player;
+    claims::Play(player, "menu mnMoly");
+    const double lap = player.Program().state.PeriodSec * 0.004;
+    const std::string onBothPages[] = {
+        "by " + percent(standard.pace, 1) + " on the standard orbit, and by " +
+            percent(molniya.pace, 0) + " on the Molniya orbit, whose lap is " +
+            percent(1 - SecondsToWait("menu mnMoly", 360) / lap, 0) + " too quick",
+        "up to " + degrees(low.ascension) + " at inclination 30, " + degrees(standard.ascension) +
+            " at 60",
+        degrees(standard.latitude) + " at 60",
+        degrees(FlyALap("scroll sclRot 180").latitude) + " at RAAN 180"};
+    for (const char* page : {"OrbitParameters.rtf", kTeachers})
+        for (const std::string& words : onBothPages)
             EXPECT_TRUE(Says(page, words)) << page << ": " << words;
+    const std::string latitudes = "up to " + degrees(low.latitude) + " at inclination 30, " +
+                                  degrees(standard.latitude) + " at 60, " +
+                                  degrees(polar.latitude) + " at 90";
+    EXPECT_TRUE(Says("OrbitParameters.rtf", latitudes)) << latitudes;
 }
 
 TEST(Worksheets, GiveNoAnswerAway)
 {
-    for (std::size_t each = 0; each < kWorksheets.size(); ++each) {
-        for (const Passage& passage : Passages(kWorksheets[each]))
-            EXPECT_EQ(Evened(passage.answers), "") << passage.text;
+    for (const std::string& sheet : kWorksheets) {
         std::set<std::string> asked;
-        for (const Passage& passage : Passages(kWorksheets[each])) asked.insert(passage.text);
-        int same = 0;
-        for (const Passage& passage : Passages(kAnswers[each]))
-            same += asked.contains(passage.text);
-        EXPECT_GE(same, 20) << "the answers are to other questions than " << kWorksheets[each];
+        for (const Passage& passage : Passages(sheet + ".rtf")) {
+            EXPECT_EQ(Evened(passage.answers), "") << passage.text;
+            asked.insert(passage.text);
+        }
+        const auto same =
+            std::ranges::count_if(Passages(sheet + kAnswers), [&](const Passage& passage) {
+                return asked.contains(passage.text);
+            });
+        EXPECT_GE(same, 20) << "the answers are to other questions than " << sheet;
     }
 }
 
 TEST(Worksheets, FillThreePeriodsOf45Minutes)
 {
-    std::vector<std::vector<int>> plans; // the start, then the tasks and the exit question
+    auto sheet = kWorksheets.begin();
     for (const Passage& passage : Passages(kTeachers)) {
         if (!passage.text.starts_with("Minutes: ")) continue;
-        plans.emplace_back();
-        for (const std::string& number : NumbersIn(passage.text))
-            plans.back().push_back(std::atoi(number.c_str()));
+        ASSERT_NE(sheet, kWorksheets.end());
+        std::vector<int> plan; // the start, then the tasks and the exit question
+        for (const std::string& number : NumbersIn(passage.text)) plan.push_back(std::stoi(number));
+        EXPECT_EQ(std::accumulate(plan.begin(), plan.end(), 0), 45);
+        plan.erase(plan.begin());
+        for (const std::string& document : {*sheet + ".rtf", *sheet + kAnswers})
+            EXPECT_EQ(NumbersBetween(document, "(", " minutes)"), plan) << document;
+        ++sheet;
     }
-    ASSERT_EQ(plans.size(), kWorksheets.size());
-    for (std::size_t each = 0; each < plans.size(); ++each) {
-        EXPECT_EQ(std::accumulate(plans[each].begin(), plans[each].end(), 0), 45);
-        const std::vector<int> tasks(plans[each].begin() + 1, plans[each].end());
-        EXPECT_EQ(NumbersBetween(kWorksheets[each], "(", " minutes)"), tasks) << kWorksheets[each];
-        EXPECT_EQ(NumbersBetween(kAnswers[each], "(", " minutes)"), tasks) << kAnswers[each];
-    }
+    EXPECT_EQ(sheet, kWorksheets.end());
 }
 
 TEST(Worksheets, LetOneWaitAsLongAsTheySay)
@@ -344,8 +398,8 @@ TEST(Worksheets, LetOneWaitAsLongAsTheySay)
     const std::string earth = "type txtPeri 600; type txtApo 3200; click btnApsisCalculate";
     const std::string low = "type txtPeri 300; type txtApo 300; click btnApsisCalculate";
     const std::map<std::string, std::vector<double>> waits = {
-        {kWorksheets[0], {SecondsToWait(earth, 180)}},
-        {kWorksheets[1],
+        {kWorksheets[0] + ".rtf", {SecondsToWait(earth, 180)}},
+        {kWorksheets[1] + ".rtf",
          {SecondsToWait("menu mnGeo", 90), 30, SecondsToWait(low, 360),
           SecondsToWait("menu mnMoly", 180)}},
         {kTeachers, {SecondsToWait("menu mnGeo", 180)}},
