@@ -3,6 +3,7 @@
 #include "raster/painter.h"
 #include "replay/stage.h"
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <gtest/gtest.h>
@@ -10,7 +11,7 @@
 #include <random>
 
 using namespace selvane;
-using raster::Box, raster::Painter, raster::Pixel;
+using raster::Box, raster::Pixel;
 
 namespace {
 
@@ -48,28 +49,36 @@ struct Image
     bool operator==(const Image&) const = default;
 };
 
-Image ImageOf(const Painter& painter)
+// A painter with all that it needs, which goes from one drawing to the next.
+class Screen
 {
-    const auto count =
-        static_cast<std::size_t>(painter.Width()) * static_cast<std::size_t>(painter.Height());
-    return {{painter.Pixels(), painter.Pixels() + count}, painter.Width(), painter.Height()};
-}
+public:
+    Screen(const PictureRow& row, double scale)
+        : painter_(row.place.width, row.place.height, row.background)
+    {
+        SetScale(scale);
+    }
+    void SetScale(double scale) { painter_.SetScale(scale, letters_); }
+    Box Show(const Picture& picture) { return painter_.Paint(picture.drawing, letters_); }
+    Image Shown() const
+    {
+        const auto count = static_cast<std::size_t>(painter_.Width()) *
+                           static_cast<std::size_t>(painter_.Height());
+        return {
+            {painter_.Pixels(), painter_.Pixels() + count}, painter_.Width(), painter_.Height()};
+    }
 
-Painter PainterOf(const PictureRow& row, double scale)
-{
-    Painter painter(row.place.width, row.place.height, row.background);
-    BlockLetters letters;
-    painter.SetScale(scale, letters);
-    return painter;
-}
+private:
+    BlockLetters letters_;
+    raster::Painter painter_;
+};
 
 // The image of one that has painted nothing before.
 Image PaintedAnew(const Picture& picture, const PictureRow& row, double scale)
 {
-    Painter painter = PainterOf(row, scale);
-    BlockLetters letters;
-    painter.Paint(picture.drawing, letters);
-    return ImageOf(painter);
+    Screen screen(row, scale);
+    screen.Show(picture);
+    return screen.Shown();
 }
 
 class PaintedPicture : public testing::TestWithParam<double>
@@ -77,30 +86,42 @@ class PaintedPicture : public testing::TestWithParam<double>
 protected:
     PaintedPicture() { surface.ForeColor = surface.FillColor = kWhite; }
 
-    // Distance of a device pixel's middle from that of the picture's central pixel, in pixels of
-    // the picture, and its direction, y upward.
-    struct FromCentre
+    // A device pixel's middle as seen from that of the picture's central pixel, y upward, in pixels
+    // of the picture.
+    struct Point
     {
-        double distance, x, y;
+        double x, y;
+        double Distance() const { return std::hypot(x, y); }
+        // Along the circle to the nearer end of an arc, below 0 outside it.
+        double WithinArc(double start, double span) const
+        {
+            const double angle = std::fmod(std::atan2(y, x) - start + 4 * kPi, 2 * kPi);
+            return Distance() * (angle < span ? std::min(angle, span - angle)
+                                              : -std::min(angle - span, 2 * kPi - angle));
+        }
     };
-    FromCentre At(int column, int row) const
-    {
-        const double x = (column + 0.5) / GetParam() - 200.5;
-        const double y = 150.5 - (row + 0.5) / GetParam();
-        return {std::hypot(x, y), x, y};
-    }
 
-    // Counts the pixels that are not as the rule says; where it says nothing, any colour will do.
-    template <typename Rule> int Wrong(Rule rule)
+    // How deep a point lies within a shape, below 0 outside it: what is deeper than `edge` is ink,
+    // what is as far outside is paper, and what lies between may be of any colour.
+    template <typename Depth> void ExpectInk(Depth depth, double edge)
     {
         const Image image = PaintedAnew(surface, kPicDemo, GetParam());
-        int wrong = 0;
+        int gaps = 0, strays = 0;
         for (int row = 0; row < image.height; ++row)
             for (int column = 0; column < image.width; ++column) {
-                const std::optional<Pixel> expected = rule(At(column, row));
-                wrong += expected && *expected != image.At(column, row);
+                const double deep = depth(
+                    Point{(column + 0.5) / GetParam() - 200.5, 150.5 - (row + 0.5) / GetParam()});
+                gaps += deep > edge && image.At(column, row) != kInk;
+                strays += deep < -edge && image.At(column, row) != kPaper;
             }
-        return wrong;
+        EXPECT_EQ(gaps, 0);
+        EXPECT_EQ(strays, 0);
+    }
+    int NotPaper() const
+    {
+        const Image image = PaintedAnew(surface, kPicDemo, GetParam());
+        return static_cast<int>(
+            std::ranges::count_if(image.pixels, [](Pixel each) { return each != kPaper; }));
     }
 
     Picture surface{kPicDemo};
@@ -114,106 +135,70 @@ TEST_P(PaintedPicture, RingsOnePixelApartMakeASphereWithoutHoles)
 {
     surface.FillStyle = Fill::Transparent;
     for (int radius = 0; radius <= 100; ++radius) surface.Circle(0, 0, radius);
-    EXPECT_EQ(Wrong([](const FromCentre& at) {
-                  return at.distance <= 100.4   ? std::optional(kInk)
-                         : at.distance >= 100.6 ? std::optional(kPaper)
-                                                : std::nullopt;
-              }),
-              0);
+    ExpectInk([](Point at) { return 100.5 - at.Distance(); }, 0.1);
 }
 
 TEST_P(PaintedPicture, ARingIsOnePixelWideAndHollow)
 {
     surface.FillStyle = Fill::Transparent;
     surface.Circle(0, 0, 80);
-    EXPECT_EQ(Wrong([](const FromCentre& at) -> std::optional<Pixel> {
-                  const double off = std::fabs(at.distance - 80);
-                  if (off < 0.45) return kInk;
-                  return off > 0.55 ? std::optional(kPaper) : std::nullopt;
-              }),
-              0);
+    ExpectInk([](Point at) { return 0.5 - std::fabs(at.Distance() - 80); }, 0.05);
 }
 
 TEST_P(PaintedPicture, DiscsAndSectorsAreSmoothOnlyAtTheEdgeAndMeetWithoutASeam)
 {
-    const auto halfDisc = [](const FromCentre& at) -> std::optional<Pixel> {
-        const bool onEdge =
-            std::fabs(at.distance - 90) < 2 || (std::fabs(at.x) < 2 && at.distance < 92);
-        if (onEdge) return std::nullopt;
-        return at.distance < 90 && at.x < 0 ? kInk : kPaper;
-    };
     surface.Circle(0, 0, 90, kWhite, -0.5 * kPi, -1.5 * kPi);
-    EXPECT_EQ(Wrong(halfDisc), 0);
+    ExpectInk([](Point at) { return std::min(90 - at.Distance(), -at.x); }, 2);
 
+    const auto disc = [](Point at) { return 90 - at.Distance(); };
     surface.Circle(0, 0, 90, kWhite, -1.5 * kPi, -2 * kPi);
     surface.Circle(0, 0, 90, kWhite, -2 * kPi, -0.5 * kPi);
-    const auto disc = [](const FromCentre& at) -> std::optional<Pixel> {
-        if (std::fabs(at.distance - 90) < 2) return std::nullopt;
-        return at.distance < 90 ? kInk : kPaper;
-    };
-    EXPECT_EQ(Wrong(disc), 0);
-
+    ExpectInk(disc, 2);
     surface.Cls();
     surface.Circle(0, 0, 90, kWhite);
-    EXPECT_EQ(Wrong(disc), 0);
+    ExpectInk(disc, 2);
 }
 
 TEST_P(PaintedPicture, SectorsOfEverySpanCoverTheirShare)
 {
     for (const double span : {0.3, 1.0, kPi, 4.0, 6.0}) {
+        SCOPED_TRACE(span);
         surface.Cls();
         surface.Circle(0, 0, 90, kWhite, -0.4, -std::fmod(0.4 + span, 2 * kPi));
-        EXPECT_EQ(Wrong([&](const FromCentre& at) -> std::optional<Pixel> {
-                      double angle = std::atan2(at.y, at.x) - 0.4;
-                      if (angle < 0) angle += 2 * kPi;
-                      const double toSide =
-                          at.distance * std::min({std::fabs(angle - span), angle, 2 * kPi - angle});
-                      if (std::fabs(at.distance - 90) < 2 || at.distance < 6 || toSide < 2.5)
-                          return std::nullopt;
-                      return at.distance < 90 && angle < span ? kInk : kPaper;
-                  }),
-                  0)
-            << span;
+        const auto sector = [&](Point at) {
+            const bool atTheTip = at.Distance() < 6;
+            return atTheTip ? 0.0 : std::min(90 - at.Distance(), at.WithinArc(0.4, span));
+        };
+        ExpectInk(sector, 2.5);
     }
 }
 
 TEST_P(PaintedPicture, AnArcRunsFromItsStartToItsEndInEveryQuarter)
 {
-    for (double start = 0.2; start < 2 * kPi; start += 0.7)
+    constexpr double kEnd = 18; // an edge of 0.1 across the line is 1.8 pixels at its ends
+    for (double start = 0.2; start < 2 * kPi; start += 1.6)
         for (const double span : {0.5, 2.0, 4.5}) {
+            SCOPED_TRACE(std::to_string(start) + " to " + std::to_string(start + span));
             surface.Cls();
             surface.Circle(0, 0, 90, kWhite, start, std::fmod(start + span, 2 * kPi));
-            EXPECT_EQ(Wrong([&](const FromCentre& at) -> std::optional<Pixel> {
-                          const double off = std::fabs(at.distance - 90);
-                          double angle = std::atan2(at.y, at.x) - start;
-                          while (angle < 0) angle += 2 * kPi;
-                          const double fromEnds =
-                              std::min(std::fabs(angle - span), std::min(angle, 2 * kPi - angle));
-                          if (off > 0.6) return kPaper;
-                          if (off > 0.4 || fromEnds < 0.02) return std::nullopt;
-                          return angle < span ? kInk : kPaper;
-                      }),
-                      0)
-                << start << " to " << start + span;
+            const auto arc = [&](Point at) {
+                return std::min(0.5 - std::fabs(at.Distance() - 90),
+                                at.WithinArc(start, span) / kEnd);
+            };
+            ExpectInk(arc, 0.1);
         }
 }
 
 TEST_P(PaintedPicture, ADotIsOnePixelAndTheSixthOfATurnOfAnArcIsThatLong)
 {
     surface.PSet(12.3, -7.8);
-    EXPECT_EQ(Wrong([](const FromCentre& at) -> std::optional<Pixel> {
-                  return std::hypot(at.x - 12.3, at.y + 7.8) > 2 ? std::optional(kPaper)
-                                                                 : std::nullopt;
-              }),
-              0);
-    const int dots = Wrong([](const FromCentre&) -> std::optional<Pixel> { return kPaper; });
+    ExpectInk([](Point at) { return std::min(0.0, 2 - std::hypot(at.x - 12.3, at.y + 7.8)); }, 0);
     const int side = static_cast<int>(std::lround(GetParam()));
-    EXPECT_EQ(dots, side * side);
+    EXPECT_EQ(NotPaper(), side * side);
 
     surface.Cls();
     surface.Circle(0, 0, 90, kWhite, 0, kPi / 3);
-    const double inked = Wrong([](const FromCentre&) -> std::optional<Pixel> { return kPaper; });
-    EXPECT_NEAR(inked / (GetParam() * GetParam()), 90 * kPi / 3, 8);
+    EXPECT_NEAR(NotPaper() / (GetParam() * GetParam()), 90 * kPi / 3, 8);
 }
 
 TEST_P(PaintedPicture, LinesRunFromEndToEndWhateverTheirLength)
@@ -221,39 +206,29 @@ TEST_P(PaintedPicture, LinesRunFromEndToEndWhateverTheirLength)
     surface.Line(-1e9, 0, 2e9, 0);
     surface.Line(0, 1e25, 0, -1e25);
     surface.Line(-1e6, 1e6, 1e6, -1e6);
-    const auto lines = [](const FromCentre& at) -> std::optional<Pixel> {
-        const double toLevel = std::min(std::fabs(at.x), std::fabs(at.y));
+    const auto lines = [](Point at) {
         const double toDiagonal = std::fabs(at.x + at.y) / std::numbers::sqrt2;
-        if (toLevel < 0.3) return kInk;
-        return toLevel > 1 && toDiagonal > 1.5 ? std::optional(kPaper) : std::nullopt;
+        return std::max(0.65 - std::min(std::fabs(at.x), std::fabs(at.y)),
+                        std::min(0.0, 1.15 - toDiagonal));
     };
-    EXPECT_EQ(Wrong(lines), 0);
+    ExpectInk(lines, 0.35);
     surface.Circle(3e8, 0, 2.9e8, kWhite); // far larger than the picture
     surface.Circle(1e20, 1e20, 5, kWhite, -1, -2);
     surface.PSet(-1e20, 1e20);
     surface.MoveTo(390, 1e9);
     surface.Print("far away");
-    EXPECT_EQ(Wrong(lines), 0) << "nothing far away reaches the picture";
+    ExpectInk(lines, 0.35); // nothing far away reaches the picture
 }
 
 TEST_P(PaintedPicture, SlantedLinesReachEveryBorder)
 {
-    for (const auto& [across, up] : {std::pair{2.0, 1.0}, {1.0, 2.0}, {-1.0, 2.0}, {2.0, -1.0}}) {
+    for (const Point to : {Point{2, 1}, {1, 2}, {-1, 2}, {2, -1}}) {
         surface.Cls();
-        surface.Line(-400 * across, -400 * up, 400 * across, 400 * up);
-        int along = 0;
-        const auto distance = [x = across, y = up](const FromCentre& at) {
-            return std::fabs(at.x * y - at.y * x) / std::hypot(x, y);
+        surface.Line(-400 * to.x, -400 * to.y, 400 * to.x, 400 * to.y);
+        const auto line = [&](Point at) {
+            return 0.85 - std::fabs(at.x * to.y - at.y * to.x) / to.Distance();
         };
-        const int paper = Wrong([&](const FromCentre& at) -> std::optional<Pixel> {
-            if (distance(at) < 0.2) ++along;
-            return distance(at) < 0.2 ? std::optional(kPaper) : std::nullopt;
-        });
-        EXPECT_EQ(paper, along) << "a gap";
-        const int beside = Wrong([&](const FromCentre& at) -> std::optional<Pixel> {
-            return distance(at) > 1.5 ? std::optional(kPaper) : std::nullopt;
-        });
-        EXPECT_EQ(beside, 0);
+        ExpectInk(line, 0.65);
     }
 }
 
@@ -277,12 +252,11 @@ TEST_P(PaintedPicture, TextIsWrittenOverWhatIsThereFromItsTopLeftCorner)
 {
     surface.MoveTo(-100, 50);
     surface.Print("MMMM");
-    EXPECT_EQ(Wrong([](const FromCentre& at) -> std::optional<Pixel> {
-                  const bool inside = at.x > -102 && at.x < -74 && at.y < 51 && at.y > 37;
-                  return inside ? std::nullopt : std::optional(kPaper);
-              }),
-              0);
-    EXPECT_GT(Wrong([](const FromCentre&) -> std::optional<Pixel> { return kPaper; }), 50);
+    const auto box = [](Point at) {
+        return std::min({0.0, at.x + 102, -74 - at.x, 51 - at.y, at.y - 37});
+    };
+    ExpectInk(box, 0);
+    EXPECT_GT(NotPaper(), 50);
 }
 
 namespace {
@@ -332,9 +306,8 @@ TEST_P(PaintedPicture, GoesFromDrawingToDrawingAsIfEachWerePaintedAnew)
 {
     std::mt19937 random(7);
     std::vector<Drawing> frame;
-    BlockLetters letters;
-    Painter painter = PainterOf(kPicDemo, GetParam());
-    Image before = ImageOf(painter);
+    Screen screen(kPicDemo, GetParam());
+    Image before = screen.Shown();
     for (int turn = 0; turn < 60; ++turn) {
         // A stretch in the middle is another one, or something is added at the end.
         const auto from = random() % (frame.size() + 1);
@@ -347,39 +320,44 @@ TEST_P(PaintedPicture, GoesFromDrawingToDrawingAsIfEachWerePaintedAnew)
         surface.Cls();
         for (const Drawing& stroke : frame) stroke(surface);
         if (turn % 10 == 9) surface.ScaleLeft += 1.5; // leaves what is drawn where it is
-        const Box changed = painter.Paint(surface.drawing, letters);
-        const Image now = ImageOf(painter);
+        const Box changed = screen.Show(surface);
+        const Image now = screen.Shown();
         ASSERT_EQ(now, PaintedAnew(surface, kPicDemo, GetParam())) << "turn " << turn;
         ASSERT_EQ(DifferencesOutside(changed, now, before), 0) << "turn " << turn;
         before = now;
     }
-    EXPECT_TRUE(painter.Paint(surface.drawing, letters).IsEmpty());
+    EXPECT_TRUE(screen.Show(surface).IsEmpty());
 
-    for (const double scale : {4.0, GetParam()}) painter.SetScale(scale, letters); // another screen
-    EXPECT_EQ(ImageOf(painter), before);
+    for (const double scale : {4.0, GetParam()}) screen.SetScale(scale); // another screen
+    EXPECT_EQ(screen.Shown(), before);
 }
 
 TEST_P(PaintedPicture, AStrokeThatDiffersInAnythingIsAnotherOne)
 {
     struct Mark
     {
-        double x, y, radius; // no radius: a dot
+        double x, y, radius; // no radius: a dot, or words
         Colour ink;
+        const char* words = "";
     };
     const Colour red = RGB(255, 0, 0);
-    BlockLetters letters;
-    Painter painter = PainterOf(kPicDemo, GetParam());
-    for (const Mark& mark : {Mark{10, 20, 0, kWhite}, Mark{10, 21, 0, kWhite},
-                             Mark{11, 21, 0, kWhite}, Mark{11, 21, 0, red}, Mark{11, 21, 1, red},
-                             Mark{11, 21, 5, red}, Mark{11, 21, 5, kWhite}}) {
+    Screen screen(kPicDemo, GetParam());
+    for (const Mark& mark :
+         {Mark{10, 20, 0, kWhite}, Mark{10, 21, 0, kWhite}, Mark{11, 21, 0, kWhite},
+          Mark{11, 21, 0, red}, Mark{11, 21, 1, red}, Mark{11, 21, 5, red}, Mark{11, 21, 5, kWhite},
+          Mark{11, 21, 0, kWhite, "N"}, Mark{11, 21, 0, kWhite, "NS"}}) {
         surface.Cls();
         surface.ForeColor = surface.FillColor = mark.ink;
-        if (mark.radius > 0)
+        surface.MoveTo(mark.x, mark.y);
+        if (*mark.words)
+            surface.Print(mark.words);
+        else if (mark.radius > 0)
             surface.Circle(mark.x, mark.y, mark.radius, mark.ink);
         else
             surface.PSet(mark.x, mark.y);
-        painter.Paint(surface.drawing, letters);
-        EXPECT_EQ(ImageOf(painter), PaintedAnew(surface, kPicDemo, GetParam()));
+        screen.Show(surface);
+        EXPECT_EQ(screen.Shown(), PaintedAnew(surface, kPicDemo, GetParam()));
+        EXPECT_TRUE(screen.Show(surface).IsEmpty());
     }
 }
 
@@ -389,54 +367,44 @@ TEST_P(PaintedPicture, AWrittenScaleTakesEffectWithTheNextCall)
     surface.PSet(-100, 0);
     surface.ScaleLeft -= 50;
     surface.PSet(-50, 0);
-    const auto toDots = [](const FromCentre& at) {
-        return std::min(std::hypot(at.x + 100, at.y), std::hypot(at.x, at.y));
+    const auto dots = [](Point at) {
+        return 0.9 - std::min(std::hypot(at.x + 100, at.y), at.Distance());
     };
-    EXPECT_EQ(Wrong([&](const FromCentre& at) -> std::optional<Pixel> {
-                  if (toDots(at) > 1.5) return kPaper;
-                  return toDots(at) < 0.3 ? std::optional(kInk) : std::nullopt;
-              }),
-              0);
+    ExpectInk(dots, 0.6);
 }
 
 // Strokes that pile up are all there, to the last that fits; one more is our own mistake.
 TEST(PileOfStrokes, StaysWholeUpToItsBound)
 {
     Picture picture(kPicDemo);
-    BlockLetters letters;
-    Painter painter = PainterOf(kPicDemo, 1);
+    Screen screen(kPicDemo, 1);
     picture.ForeColor = kWhite;
-    const auto addSome = [&](std::size_t count) {
-        for (; count > 0; --count) {
-            const auto at = static_cast<int>(picture.drawing.Strokes().size());
-            picture.PSet(at % 300 - 150, at / 300 % 200 - 80);
-        }
-    };
-    while (picture.drawing.Strokes().size() < kMostStrokes) {
-        addSome(kMostStrokes / 50);
-        painter.Paint(picture.drawing, letters);
+    for (int at = 0; at < static_cast<int>(kMostStrokes); ++at) {
+        picture.PSet(at % 300 - 150, at / 300 % 200 - 80);
+        if (at % 2000 == 0) screen.Show(picture);
     }
+    screen.Show(picture);
     EXPECT_EQ(replay::Count(picture.drawing, raster::StrokeKind::Dot), kMostStrokes);
-    EXPECT_EQ(ImageOf(painter), PaintedAnew(picture, kPicDemo, 1));
+    EXPECT_EQ(screen.Shown(), PaintedAnew(picture, kPicDemo, 1));
     Picture full = picture;
     EXPECT_DEATH(full.PSet(0, 0), "kMostStrokes");
     picture.Cls();
     picture.PSet(0, 0);
-    painter.Paint(picture.drawing, letters);
-    EXPECT_EQ(ImageOf(painter), PaintedAnew(picture, kPicDemo, 1));
+    screen.Show(picture);
+    EXPECT_EQ(screen.Shown(), PaintedAnew(picture, kPicDemo, 1));
 }
 
 TEST(DefaultPicture, ChangesInASmallPartAtEachTick)
 {
     replay::Stage stage;
-    BlockLetters letters;
-    Painter painter = PainterOf(kPicSelvane, 1);
-    painter.Paint(stage.sim.picSelvane.drawing, letters);
+    const Picture& picture = stage.sim.picSelvane;
+    Screen screen(kPicSelvane, 1);
+    screen.Show(picture);
     for (int step = 0; step < 20; ++step) {
         Tick(stage.sim, tmrSat);
-        const Box changed = painter.Paint(stage.sim.picSelvane.drawing, letters);
-        EXPECT_GT(changed.across.end - changed.across.first, 50);
-        EXPECT_LT(changed.across.end - changed.across.first, 300);
-        EXPECT_EQ(ImageOf(painter), PaintedAnew(stage.sim.picSelvane, kPicSelvane, 1));
+        const auto [first, end] = screen.Show(picture).across;
+        EXPECT_GT(end - first, 50);
+        EXPECT_LT(end - first, 300);
+        EXPECT_EQ(screen.Shown(), PaintedAnew(picture, kPicSelvane, 1));
     }
 }
