@@ -1,6 +1,7 @@
 // The user guide and the about box without their windows: what a click loads, opens or starts.
 #include "app/help_pane.h"
 #include "documents/system_information.h"
+#include "registry_values.h"
 #include "replay/stage.h"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,8 @@ using namespace selvane;
 using replay::Stage;
 
 namespace {
+
+using Strings = std::vector<std::string>;
 
 const std::string kTool = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
 const std::string kToolFolder = "SOFTWARE\\Microsoft\\Shared Tools Location";
@@ -50,10 +53,18 @@ public:
         EXPECT_EQ(key, RegistryKey{7});
         EXPECT_EQ(bufferSize, 1024);
         const auto found = registry.find(opened_ + "|" + name);
-        if (found == registry.end()) return std::nullopt;
+        if (found == registry.end() || found->second.bytes.size() > bufferSize) return std::nullopt;
         return found->second;
     }
     void CloseKey(RegistryKey) override { --keysOpen; }
+
+    // All that starting the tool asks.
+    Strings StartTool()
+    {
+        asked.clear();
+        StartSysInfo(*this);
+        return asked;
+    }
 
     void Put(const std::string& key, const std::string& value, std::uint32_t type,
              const std::string& bytes)
@@ -66,23 +77,18 @@ private:
     std::string opened_;
 };
 
-using Strings = std::vector<std::string>;
 const std::string kUnavailable = "Selvane: System Information Is Unavailable At This Time";
 
 } // namespace
 
-TEST(AboutBox, CaptionsAreSetAtEachLoadAndOkDropsThem)
+TEST(AboutBox, SaysWhereToFindTheMaker)
 {
     Stage desk;
     mnAbout_Click(desk.sim);
-    const AboutWindow& box = desk.sim.windows.frmAbout;
-    EXPECT_EQ(box.caption, "About Selvane");
-    EXPECT_EQ(box.lblTitle, "Selvane");
-    EXPECT_EQ(box.lblVersion, "Version " SELVANE_VERSION);
-    EXPECT_TRUE(box.lblDisclaimer.ends_with("\n\rhttps://selvane.example.org"));
+    EXPECT_TRUE(
+        desk.sim.windows.frmAbout.lblDisclaimer.ends_with("\n\rhttps://selvane.example.org"));
     frmAbout::cmdOK_Click(desk.sim);
-    EXPECT_FALSE(IsLoaded(desk.sim, WindowId::About));
-    EXPECT_EQ(box.caption, "");
+    EXPECT_EQ(desk.sim.windows.frmAbout.caption, "");
 }
 
 TEST(DocumentLinks, LeadToADocumentOfTheFolderInTheirOwnPaneOrToTheWeb)
@@ -146,63 +152,42 @@ TEST(SystemInformation, TheFirstValueIsTakenAtItsWord)
     machine.Put(kTool, "PATH", 1, std::string("C:\\info.exe\0", 12));
     machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools");
     machine.startable = {"C:\\info.exe"};
-    StartSysInfo(machine);
-    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "start C:\\info.exe"}));
+    EXPECT_EQ(machine.StartTool(), (Strings{"key " + kTool, "start C:\\info.exe"}));
     machine.startable.clear();
-    machine.asked.clear();
-    StartSysInfo(machine);
-    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "start C:\\info.exe", kUnavailable}));
-    machine.asked.clear();
+    EXPECT_EQ(machine.StartTool(), (Strings{"key " + kTool, "start C:\\info.exe", kUnavailable}));
     machine.Put(kTool, "PATH", 3, "binary"); // no text: an empty path is started, and fails
-    StartSysInfo(machine);
-    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "start ", kUnavailable}));
+    EXPECT_EQ(machine.StartTool(), (Strings{"key " + kTool, "start ", kUnavailable}));
 }
 
 TEST(SystemInformation, TheSecondValueIsAFolderThatMustHoldTheTool)
 {
+    const std::string tool = "C:\\Tools\\\\MSINFO32.EXE";
     Machine machine;
     machine.registry[kTool] = {}; // the key is there, its value is not
-    StartSysInfo(machine);
-    EXPECT_EQ(machine.asked, (Strings{"key " + kTool, "key " + kToolFolder, kUnavailable}));
-    machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools\\");
-    const std::string tool = "C:\\Tools\\\\MSINFO32.EXE";
     machine.startable = {tool};
-    machine.asked.clear();
-    StartSysInfo(machine);
-    EXPECT_EQ(machine.asked.back(), kUnavailable);
+    const Strings nothing{"key " + kTool, "key " + kToolFolder, kUnavailable};
+    EXPECT_EQ(machine.StartTool(), nothing);
+    machine.Put(kToolFolder, "MSINFO", 1, "C:\\Tools\\");
+    EXPECT_EQ(machine.StartTool(), nothing);
     machine.files = {tool};
-    StartSysInfo(machine);
-    EXPECT_EQ(machine.asked.back(), "start " + tool);
+    EXPECT_EQ(machine.StartTool().back(), "start " + tool);
     EXPECT_EQ(machine.keysOpen, 0);
 }
 
 TEST(Registry, AValueIsReadByItsType)
 {
-    struct Case
-    {
-        std::uint32_t type;
-        std::string bytes, before, after;
-    };
-    const std::vector<Case> cases = {
-        {1, std::string("text\0", 5), "old", "text"},
-        {1, "text", "old", "text"},
-        {1, std::string("a\0\0", 3), "", std::string("a\0", 2)}, // one ending zero, no more
-        {1, std::string(1024, 'x'), "", std::string(1024, 'x')}, // as long as the buffer
-        {1, "", "old", ""},
-        {4, std::string("\x03\x00\x00\x00", 4), "", "&h003"}, // the last byte is an ending zero
-        {4, std::string("\x78\x56\x34\xFA", 4), "", "&hFA345678"},
-        {4, "\x01\x0A", "old", "&holdA1"}, // no leading zeros; what stood there stays in front
-        {4, "", "old", "&hold"},
-        {2, "%TEMP%", "old", "old"},
-    };
-    for (const Case& c : cases) {
+    auto cases = RegistryValueCases();
+    cases.push_back({"no bytes", 1, "", true, ""});
+    cases.push_back({"two ending zeros", 1, std::string("a\0\0", 3), true, std::string("a\0", 2)});
+    for (const RegistryValueCase& value : cases) {
         Machine machine;
-        machine.Put("key", "name", c.type, c.bytes);
-        std::string value = c.before;
-        EXPECT_TRUE(GetKeyValue(machine, 0x80000002, "key", "name", value));
-        EXPECT_EQ(value, c.after) << "type " << c.type;
-        EXPECT_FALSE(GetKeyValue(machine, 0x80000002, "key", "other", value));
-        EXPECT_EQ(value, "");
+        machine.Put("key", "name", value.type, value.stored);
+        std::string text = "old";
+        EXPECT_EQ(GetKeyValue(machine, 0x80000002, "key", "name", text), value.isRead)
+            << value.what;
+        EXPECT_EQ(text, value.text) << value.what;
+        EXPECT_FALSE(GetKeyValue(machine, 0x80000002, "key", "other", text));
+        EXPECT_EQ(text, "");
         EXPECT_EQ(machine.keysOpen, 0);
     }
 }

@@ -1,4 +1,5 @@
 // The about box's questions to a real registry, which the test fills, and its start of a program.
+#include "../registry_values.h"
 #include "documents/system_information.h"
 #include "win32/platform_win32.h"
 
@@ -55,15 +56,6 @@ protected:
         RegCloseKey(key);
     }
 
-    using Answer = std::pair<bool, std::string>; // was it read, and what the text is then
-
-    Answer Read(const std::string& path, const std::string& name)
-    {
-        std::string value = "before";
-        const bool read = GetKeyValue(machine_, kLocalMachine, path, name, value);
-        return {read, value};
-    }
-
     std::vector<std::string> MessagesOfSystemInfo()
     {
         machine_.messages.clear();
@@ -71,7 +63,6 @@ protected:
         return machine_.messages;
     }
 
-private:
     Machine machine_;
 };
 
@@ -79,49 +70,24 @@ private:
 
 TEST_F(RealRegistry, ValuesAreReadByTheirType)
 {
-    using namespace std::string_literals;
-    struct Row
-    {
-        const char* what;
-        DWORD type;
-        std::string stored;
-        Answer expected;
-    };
-    const std::string longest(1024, 'x');
-    const Row rows[] = {
-        {"text with an ending zero", REG_SZ, "C:\\a.exe\0"s, {true, "C:\\a.exe"}},
-        {"text without one", REG_SZ, "C:\\a.exe", {true, "C:\\a.exe"}},
-        {"empty text", REG_SZ, "\0"s, {true, ""}},
-        {"1023 characters and a zero",
-         REG_SZ,
-         longest.substr(1) + "\0"s,
-         {true, longest.substr(1)}},
-        {"exactly 1024 characters", REG_SZ, longest, {true, longest}},
-        {"1024 characters and a zero", REG_SZ, longest + "\0"s, {false, ""}},
-        {"1025 characters", REG_SZ, longest + "x", {false, ""}},
-        {"a number, added to what was there",
-         REG_DWORD,
-         "\x04\x03\xB2\xA1"s,
-         {true, "&hbeforeA1B234"}},
-        {"a number that ends in a zero", REG_DWORD, "\x05\0\0\0"s, {true, "&hbefore005"}},
-        {"bytes", REG_BINARY, "\x01\x02"s, {true, "before"}},
-    };
-    for (const Row& row : rows) {
-        Put(kTool, "PATH", row.type, row.stored);
-        EXPECT_EQ(Read(kTool, "PATH"), row.expected) << row.what;
+    std::string text = "old";
+    EXPECT_FALSE(GetKeyValue(machine_, kLocalMachine, kTool, "PATH", text)) << "no such key";
+    EXPECT_EQ(text, "");
+    for (const RegistryValueCase& value : RegistryValueCases()) {
+        Put(kTool, "PATH", value.type, value.stored);
+        text = "old";
+        EXPECT_EQ(GetKeyValue(machine_, kLocalMachine, kTool, "PATH", text), value.isRead)
+            << value.what;
+        EXPECT_EQ(text, value.text) << value.what;
     }
-}
-
-TEST_F(RealRegistry, WhatIsMissingReadsAsNothing)
-{
-    EXPECT_EQ(Read(kTool, "PATH"), Answer(false, ""));
-    Put(kTool, "OTHER", REG_SZ, "text");
-    EXPECT_EQ(Read(kTool, "PATH"), Answer(false, ""));
+    EXPECT_FALSE(GetKeyValue(machine_, kLocalMachine, kTool, "OTHER", text)) << "no such value";
+    EXPECT_EQ(text, "");
 }
 
 TEST_F(RealRegistry, SystemInformationIsStartedFromWhereTheRegistrySays)
 {
-    const std::vector<std::string> unavailable{"System Information Is Unavailable At This Time"};
+    using Messages = std::vector<std::string>;
+    const Messages none, unavailable{"System Information Is Unavailable At This Time"};
     EXPECT_EQ(MessagesOfSystemInfo(), unavailable);
 
     // A folder that does not hold the tool, then one that does.
@@ -130,11 +96,11 @@ TEST_F(RealRegistry, SystemInformationIsStartedFromWhereTheRegistrySays)
     EXPECT_EQ(MessagesOfSystemInfo(), unavailable);
     CreateDirectoryA(folder.c_str(), nullptr);
     ASSERT_TRUE(CopyFileA(kProgram.c_str(), tool.c_str(), FALSE));
-    EXPECT_EQ(MessagesOfSystemInfo(), std::vector<std::string>{});
+    EXPECT_EQ(MessagesOfSystemInfo(), none);
 
     // A path of its own goes first, also where nothing is.
     Put(kTool, "PATH", REG_SZ, "C:\\nowhere\\MSINFO32.EXE");
     EXPECT_EQ(MessagesOfSystemInfo(), unavailable);
     Put(kTool, "PATH", REG_SZ, kProgram);
-    EXPECT_EQ(MessagesOfSystemInfo(), std::vector<std::string>{});
+    EXPECT_EQ(MessagesOfSystemInfo(), none);
 }
