@@ -7,16 +7,19 @@
 #include <gio/gio.h>
 #include <gmock/gmock.h>
 #include <memory>
+#include <ranges>
 #include <string>
 #include <vector>
 
 namespace {
 
-using testing::AnyOf;
+using testing::_;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Ne;
+using testing::Not;
 using testing::StartsWith;
-using Check = testing::Matcher<const std::string&>;
+using Words = testing::Matcher<const std::string&>;
 
 std::string theProgram, theFolder;
 
@@ -105,23 +108,23 @@ private:
     std::shared_ptr<AtspiAccessible> node_;
 };
 
-void Collect(const Control& from, const std::function<bool(const Control&)>& wanted,
-             std::vector<Control>& found)
+// What the bus brings meanwhile is heard.
+bool ComesTrue(const std::function<bool()>& condition, int patienceMs = 30000)
 {
-    for (const Control& child : from.Children()) {
-        if (wanted(child)) found.push_back(child);
-        Collect(child, wanted, found);
-    }
-}
-
-template <typename Condition> bool ComesTrue(Condition condition)
-{
-    constexpr int kPatienceMs = 30000, kPauseMs = 50;
-    for (int waited = 0; waited < kPatienceMs; waited += kPauseMs) {
+    constexpr int kPauseMs = 20;
+    for (int waited = 0; waited < patienceMs; waited += kPauseMs) {
+        while (g_main_context_iteration(nullptr, FALSE)) {
+        }
         if (condition()) return true;
         g_usleep(kPauseMs * 1000);
     }
     return false;
+}
+
+void ExpectSoon(const std::function<std::string()>& now, const Words& wanted)
+{
+    ComesTrue([&] { return wanted.Matches(now()); });
+    EXPECT_THAT(now(), wanted);
 }
 
 // What a screen reader hears of without asking, as "WHO inserted: TEXT", "WHO named: TITLE" or "WHO
@@ -142,16 +145,9 @@ public:
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;
 
-    bool Hears(const std::string& news, int milliseconds = 30000)
+    bool Hears(const std::string& news, int patienceMs = 30000)
     {
-        constexpr int kPauseMs = 20;
-        for (int waited = 0; waited < milliseconds; waited += kPauseMs) {
-            while (g_main_context_iteration(nullptr, FALSE)) {
-            }
-            if (std::ranges::find(heard_, news) != heard_.end()) return true;
-            g_usleep(kPauseMs * 1000);
-        }
-        return false;
+        return ComesTrue([&] { return std::ranges::count(heard_, news) > 0; }, patienceMs);
     }
     void Forget()
     {
@@ -200,7 +196,7 @@ protected:
             g_subprocess_launcher_spawn(launcher.get(), nullptr, theProgram.c_str(), nullptr));
         ASSERT_TRUE(program_) << "cannot start " << theProgram;
         ASSERT_TRUE(ComesTrue([this] { return FindOnDesktop(); })) << "it is not on the bus";
-        ASSERT_TRUE(ComesTrue([this] { return Find(ATSPI_ROLE_FRAME, "Selvane").IsShown(); }));
+        ASSERT_TRUE(ComesTrue([this] { return The(ATSPI_ROLE_FRAME, "Selvane").IsShown(); }));
     }
 
     void TearDown() override
@@ -214,71 +210,38 @@ protected:
         EXPECT_EQ(Taken(complaints), "");
     }
 
-    std::vector<Control> All(AtspiRole role, const std::string& name = "") const
+    std::vector<Control> All(AtspiRole role, const Words& name = _) const
+    {
+        std::vector<Control> found, open{*application_};
+        while (!open.empty()) {
+            const Control next = open.back();
+            open.pop_back();
+            if (next.Role() == role && name.Matches(next.Name())) found.push_back(next);
+            for (const Control& child : std::views::reverse(next.Children())) open.push_back(child);
+        }
+        return found;
+    }
+
+    // Those that share a name differ by their order. Waited for; nothing is there where it fails.
+    Control The(AtspiRole role, const Words& name, std::size_t which = 0) const
     {
         std::vector<Control> found;
-        Collect(
-            *application_,
-            [&](const Control& control) {
-                return control.Role() == role && (name.empty() || control.Name() == name);
-            },
-            found);
-        return found;
-    }
-
-    // Those that share a name differ by their order.
-    Control Find(AtspiRole role, const std::string& name, std::size_t which = 0) const
-    {
-        const std::vector<Control> found = All(role, name);
+        EXPECT_TRUE(ComesTrue([&] { return (found = All(role, name)).size() > which; }))
+            << "there is no control whose name "
+            << testing::DescribeMatcher<const std::string&>(name);
         return which < found.size() ? found[which] : Control(nullptr);
     }
-
-    Control The(AtspiRole role, const std::string& name, std::size_t which = 0) const
-    {
-        Control found(nullptr);
-        EXPECT_TRUE(ComesTrue([&] { return (found = Find(role, name, which)).Exists(); }))
-            << "there is no " << name;
-        return found;
-    }
-    Control Bar(const std::string& name, std::size_t which = 0) const
-    {
-        return The(ATSPI_ROLE_SCROLL_BAR, name, which);
-    }
+    Control Bar(const std::string& name) const { return The(ATSPI_ROLE_SCROLL_BAR, name); }
     Control Field(const std::string& name, std::size_t which = 0) const
     {
         return The(ATSPI_ROLE_TEXT, name, which);
     }
-    void Press(AtspiRole role, const std::string& name, std::size_t which = 0) const
+    Control Button(const std::string& name, std::size_t which = 0) const
     {
-        The(role, name, which).Do("Press");
+        return The(ATSPI_ROLE_PUSH_BUTTON, name, which);
     }
-    void PressButton(const std::string& name, std::size_t which = 0) const
-    {
-        Press(ATSPI_ROLE_PUSH_BUTTON, name, which);
-    }
-
-    void ExpectReadOut(const std::string& text) const
-    {
-        EXPECT_TRUE(ComesTrue([&] { return Find(ATSPI_ROLE_LABEL, text).Exists(); }))
-            << "no read-out says: " << text;
-    }
-    Control Starting(const std::string& start) const
-    {
-        std::vector<Control> found;
-        ComesTrue([&] {
-            Collect(
-                *application_, [&](const Control& one) { return one.Name().starts_with(start); },
-                found);
-            return !found.empty();
-        });
-        EXPECT_FALSE(found.empty()) << "nothing is called " << start;
-        return found.empty() ? Control(nullptr) : found[0];
-    }
-    static void ExpectSoon(const std::function<std::string()>& now, const Check& wanted)
-    {
-        ComesTrue([&] { return wanted.Matches(now()); });
-        EXPECT_THAT(now(), wanted);
-    }
+    Control Item(const std::string& name) const { return The(ATSPI_ROLE_MENU_ITEM, name); }
+    Control ReadOut(const Words& text) const { return The(ATSPI_ROLE_LABEL, text); }
 
 private:
     bool FindOnDesktop()
@@ -295,40 +258,26 @@ private:
 
 TEST_F(Bus, EveryControlSaysWhatItIs)
 {
-    std::vector<Control> all;
-    for (const Control& frame : All(ATSPI_ROLE_FRAME, "Selvane"))
-        Collect(
-            frame, [](const Control& one) { return one.Is(ATSPI_STATE_FOCUSABLE); }, all);
-    std::vector<std::string> bars, fields;
-    for (const Control& control : all) {
-        EXPECT_NE(control.Name(), "");
-        EXPECT_NE(control.Description(), "") << control.Name();
-        EXPECT_THAT(control.Role(),
-                    AnyOf(ATSPI_ROLE_SCROLL_BAR, ATSPI_ROLE_TEXT, ATSPI_ROLE_PUSH_BUTTON,
-                          ATSPI_ROLE_LINK, ATSPI_ROLE_LABEL))
-            << control.Name();
-        if (control.Role() == ATSPI_ROLE_SCROLL_BAR) {
-            bars.push_back(control.Name());
-            EXPECT_TRUE(control.HasRange()) << control.Name();
-        }
-        if (control.Role() == ATSPI_ROLE_TEXT) {
-            fields.push_back(control.Name());
-            EXPECT_NE(control.Text(), "") << control.Name();
-        }
+    std::vector<std::string> fields, bars;
+    for (const Control& field : All(ATSPI_ROLE_TEXT)) {
+        if (field.Is(ATSPI_STATE_EDITABLE)) fields.push_back(field.Name());
+        EXPECT_NE(field.Text(), "") << field.Name();
     }
-    EXPECT_THAT(bars, ElementsAre("Periapsis (km)", "Apoapsis (km)", "Periapsis (km)",
-                                  "Eccentricity", "Semi-Minor Axis (km)", "Semi-Major Axis (km)",
-                                  "Inclination (Deg.)", "RAAN (Deg.)", "ARGP (Deg.)",
-                                  "Orbit View (Deg.)", "Zoom", "Pan left and right",
-                                  "Pan up and down", "Change View (deg.)", "GMT Offset"));
-    for (const char* const pan : {"Pan left and right", "Pan up and down"}) std::erase(bars, pan);
-    EXPECT_EQ(fields, bars);
-    EXPECT_EQ(all.size(), 15u + 13u + 10u + 1u + 1u); // bars, fields, buttons, link, pane
-    EXPECT_EQ(All(ATSPI_ROLE_MENU_ITEM).size(), 21u);
-    for (const Control& item : All(ATSPI_ROLE_MENU_ITEM)) EXPECT_NE(item.Name(), "");
+    EXPECT_THAT(fields,
+                ElementsAre("Periapsis (km)", "Apoapsis (km)", "Periapsis (km)", "Eccentricity",
+                            "Semi-Minor Axis (km)", "Semi-Major Axis (km)", "Inclination (Deg.)",
+                            "RAAN (Deg.)", "ARGP (Deg.)", "Orbit View (Deg.)", "Zoom",
+                            "Change View (deg.)", "GMT Offset"));
+    for (const Control& bar : All(ATSPI_ROLE_SCROLL_BAR)) {
+        if (!bar.Is(ATSPI_STATE_FOCUSABLE)) continue; // one of the pane
+        if (!bar.Name().starts_with("Pan ")) bars.push_back(bar.Name());
+        EXPECT_TRUE(bar.HasRange()) << bar.Name();
+    }
+    EXPECT_EQ(bars, fields);
+    EXPECT_EQ(All(ATSPI_ROLE_PUSH_BUTTON, Not("")).size(), 10U);
     for (const char* const chosen : {"Satellite", "Orbital Energy", "Earth", "Reference Frames"})
-        EXPECT_TRUE(The(ATSPI_ROLE_MENU_ITEM, chosen).Is(ATSPI_STATE_CHECKED)) << chosen;
-    EXPECT_FALSE(The(ATSPI_ROLE_MENU_ITEM, "Mars").Is(ATSPI_STATE_CHECKED));
+        EXPECT_TRUE(Item(chosen).Is(ATSPI_STATE_CHECKED)) << chosen;
+    EXPECT_FALSE(Item("Mars").Is(ATSPI_STATE_CHECKED));
     EXPECT_FALSE(Bar("GMT Offset").IsShown());
 }
 
@@ -336,91 +285,51 @@ TEST_F(Bus, AnOrbitIsSetByBarsByFieldsAndByButtons)
 {
     Bar("Periapsis (km)").SetValue(20);
     Bar("Apoapsis (km)").SetValue(30);
-    ExpectReadOut("Periapsis = 2000 Km");
+    ReadOut("Periapsis = 2000 Km");
     Bar("Apoapsis (km)").Do("Increase");
-    ExpectReadOut("Apoapsis = 3100 Km");
+    ReadOut("Apoapsis = 3100 Km");
     EXPECT_EQ(Field("Apoapsis (km)").Text(), "3100");
 
     Field("Periapsis (km)").Write("1500"); // heeded by the next step of the flight
     Field("Apoapsis (km)").Write("2500.5");
-    ExpectReadOut("Periapsis = 1500 Km");
-    ExpectReadOut("Eccentricity = 0.060"); // 500.25 km of 8371.25 km
+    ReadOut("Eccentricity = 0.060"); // 500.25 km of 8371.25 km
     EXPECT_EQ(Bar("Apoapsis (km)").Value(), 31);
-
-    Field("Periapsis (km)", 1).Write("1000");
-    Field("Eccentricity").Write("0.2");
-    PressButton("Calculate", 1);
-    ExpectReadOut("Semi-Major Axis = 9214 Km"); // 7371 km / 0.8
     Field("Semi-Minor Axis (km)").Write("9000");
     Field("Semi-Major Axis (km)").Write("10000");
-    PressButton("Calculate", 2);
-    ExpectReadOut("Eccentricity = 0.436"); // the root of 1 - 0.81
+    Button("Calculate", 2).Do("Press");
+    ReadOut("Eccentricity = 0.436"); // the root of 1 - 0.81
 
     const Control axis = Field("Semi-Major Axis (km)");
     const std::string purpose = axis.Description();
     axis.Write("far");
-    ExpectSoon([&] { return axis.Description(); }, testing::Ne(purpose)); // why it is no orbit
+    ExpectSoon([&] { return axis.Description(); }, Ne(purpose)); // why it is no orbit
     axis.Write("12000");
     ExpectSoon([&] { return axis.Description(); }, purpose);
-    ExpectReadOut("Semi-Major Axis = 12000 Km");
 }
 
 TEST_F(Bus, TheFlightStopsAndIsStepped)
 {
-    ExpectReadOut("Eclipse = 22 Min (18 %)");
-    ExpectSoon([&] { return The(ATSPI_ROLE_IMAGE, "Orbit").Description(); },
-               HasSubstr("The satellite is at latitude")); // in flight too
-    PressButton("Pause");
-    EXPECT_TRUE(ComesTrue([&] { return The(ATSPI_ROLE_PUSH_BUTTON, "Play").IsShown(); }));
-    EXPECT_FALSE(The(ATSPI_ROLE_PUSH_BUTTON, "Pause").IsShown());
-    const Control label = Starting("True Anomaly = "), image = The(ATSPI_ROLE_IMAGE, "Orbit");
-    const auto anomaly = [&] { return label.Name().substr(15); };
+    const Control label = ReadOut(StartsWith("True Anomaly = "));
+    const Control image = The(ATSPI_ROLE_IMAGE, "Orbit");
+    const auto anomaly = [&] { return label.Name(); };
     const auto picture = [&] { return image.Description(); };
+    ExpectSoon(picture, HasSubstr("The satellite is at latitude")); // in flight too
+    Button("Pause").Do("Press");
+    EXPECT_TRUE(ComesTrue([&] { return Button("Play").IsShown(); }));
+    EXPECT_FALSE(Button("Pause").IsShown());
     const std::string stopped = anomaly(), words = picture();
-    EXPECT_THAT(words, HasSubstr("true anomaly " + stopped.substr(0, stopped.find(' '))));
     g_usleep(1000000); // four beats of the slowest flight
     EXPECT_EQ(anomaly(), stopped);
 
-    PressButton("Step back");
-    ExpectSoon(anomaly, testing::Ne(stopped));
-    EXPECT_LT(std::stod(anomaly()), std::stod(stopped));
-    ExpectSoon(picture, testing::Ne(words)); // spoken anew after a step
-    Bar("Inclination (Deg.)").SetValue(0);   // a low orbit in the plane of the Sun's light
-    for (int turn = 0; turn < 360 && picture().find("in the planet's shadow") == words.npos;
-         turn += 30) {
-        Bar("RAAN (Deg.)").SetValue(turn);
-        const std::string before = anomaly();
-        PressButton("Step forward");
-        ExpectSoon(anomaly, testing::Ne(before));
-    }
-    EXPECT_THAT(picture(), HasSubstr("in the planet's shadow"));
-
+    Button("Step back").Do("Press");
+    ExpectSoon(anomaly, Ne(stopped));
+    ExpectSoon(picture, Ne(words)); // spoken anew after a step
     const std::string stepped = anomaly();
-    PressButton("Play");
-    ExpectSoon(anomaly, testing::Ne(stepped));
-    Press(ATSPI_ROLE_MENU_ITEM, "Satellite");
+    Button("Play").Do("Press");
+    ExpectSoon(anomaly, Ne(stepped));
+    Item("Satellite").Do("Press");
     ExpectSoon(picture, HasSubstr("not shown"));
-    EXPECT_FALSE(The(ATSPI_ROLE_MENU_ITEM, "Satellite").Is(ATSPI_STATE_CHECKED));
-}
-
-TEST_F(Bus, EachDemonstrationStartsFromTheMenu)
-{
-    const Control pane = Starting("Explanation"), period = Starting("Period = ");
-    const struct
-    {
-        std::string item, document, minutes;
-    } kDemos[] = {{"Earth-Sun Orbit", "The year and the shadow", "125 Min"},
-                  {"Sun Synchronous Orbit", "Sun-synchronous orbit", ""},
-                  {"Geosynchronous Orbit", "Geosynchronous orbit", "1436 Min"},
-                  {"Molniya Orbit", "Molniya orbit", "716 Min"}};
-    for (const auto& [name, document, minutes] : kDemos) {
-        SCOPED_TRACE(name);
-        const Control item = The(ATSPI_ROLE_MENU_ITEM, name);
-        item.Do("Press");
-        EXPECT_TRUE(ComesTrue([&] { return item.Is(ATSPI_STATE_CHECKED); }));
-        ExpectSoon([&] { return pane.Text(); }, StartsWith(document + "\n"));
-        ExpectSoon([&] { return period.Name(); }, StartsWith("Period =  " + minutes));
-    }
+    EXPECT_FALSE(Item("Satellite").Is(ATSPI_STATE_CHECKED));
 }
 
 // The listener hears of each new text with the title of its document, of what the pictures show
@@ -428,74 +337,28 @@ TEST_F(Bus, EachDemonstrationStartsFromTheMenu)
 TEST_F(Bus, ANewTextIsAnnouncedWithItsTitle)
 {
     Listener listener;
-    PressButton("Next");
+    Button("Next").Do("Press");
     EXPECT_TRUE(listener.Hears("Explanation inserted: Reference frames: three axes"));
     EXPECT_TRUE(listener.Hears("Explanation named: Reference frames: three axes"));
     EXPECT_TRUE(listener.Hears("Tutorial picture described"));
-    Press(ATSPI_ROLE_MENU_ITEM, "Molniya Orbit");
+    Item("Molniya Orbit").Do("Press");
     EXPECT_TRUE(listener.Hears("Explanation inserted: Molniya orbit"));
-    EXPECT_TRUE(listener.Hears("Explanation named: Molniya orbit"));
-    Press(ATSPI_ROLE_MENU_ITEM, "User Guide");
+    Item("User Guide").Do("Press");
     EXPECT_TRUE(listener.Hears("User guide inserted: Welcome to Selvane"));
-    Press(ATSPI_ROLE_LINK, "Orbit Shape");
+    The(ATSPI_ROLE_LINK, "Orbit Shape").Do("Press");
     EXPECT_TRUE(listener.Hears("User guide inserted: Orbit Shape"));
     EXPECT_TRUE(listener.Hears("User guide named: Orbit Shape"));
 
     const Control image = The(ATSPI_ROLE_IMAGE, "Orbit");
     const std::string before = image.Description();
     listener.Forget();
-    ExpectSoon([&] { return image.Description(); }, testing::Ne(before)); // flies on
+    ExpectSoon([&] { return image.Description(); }, Ne(before)); // flies on
     EXPECT_FALSE(listener.Hears("Orbit described", 500));
-}
 
-TEST_F(Bus, BothTutorialsAreWalkedThereAndBack)
-{
-    const Control image = The(ATSPI_ROLE_IMAGE, "Tutorial picture");
-    const Control pane = Starting("Explanation");
-    const auto walk = [&](const std::string& tutorial, const std::vector<std::string>& headings) {
-        const std::size_t last = headings.size() - 1;
-        for (std::size_t press = 0; press <= 2 * last; ++press) {
-            const std::size_t step = press <= last ? press : 2 * last - press;
-            if (press > 0) PressButton(press <= last ? "Next" : "Back");
-            ExpectSoon([&] { return image.Description(); },
-                       StartsWith(tutorial + ", step " + std::to_string(step + 1)));
-            ExpectSoon([&] { return pane.Text(); }, StartsWith(headings[step] + "\n"));
-        }
-    };
-    walk("Reference Frames",
-         {"Reference frames: the celestial sphere", "Reference frames: three axes",
-          "Reference frames: right ascension and declination",
-          "Reference frames: longitude and latitude"});
-    Press(ATSPI_ROLE_MENU_ITEM, "Time Standards");
-    walk("Time Standards",
-         {"Time standards: two kinds of day", "Time standards: GMT, local time and the seasons"});
-    PressButton("Next");
-    EXPECT_TRUE(ComesTrue([&] { return Bar("GMT Offset").IsShown(); }));
-}
-
-TEST_F(Bus, TheUserGuideIsReadAndTheAboutBoxCloses)
-{
-    Press(ATSPI_ROLE_MENU_ITEM, "User Guide");
-    const Control pane = Starting("User guide: ");
-    const struct
-    {
-        std::string topic, heading;
-    } kTopics[] = {{"Terminolgy", "Terminology"},
-                   {"Main Display", "The main display"},
-                   {"Orbital Energies", "Orbital Energies"},
-                   {"Orbit Shape", "Orbit Shape"},
-                   {"Orbit Position", "Orbit Position"},
-                   {"Orbit Parameters", "Orbit Parameters"},
-                   {"Introduction", "Welcome to Selvane"}};
-    for (const auto& [topic, heading] : kTopics) {
-        Press(ATSPI_ROLE_LINK, topic);
-        ExpectSoon([&] { return pane.Text(); }, StartsWith(heading + "\n"));
-        EXPECT_NE(The(ATSPI_ROLE_LINK, topic).Description(), "");
-    }
-    Press(ATSPI_ROLE_MENU_ITEM, "About Selvane ...");
-    EXPECT_TRUE(ComesTrue([&] { return The(ATSPI_ROLE_DIALOG, "About Selvane").IsShown(); }));
-    ExpectReadOut("Version " SELVANE_VERSION);
-    PressButton("OK");
+    Item("About Selvane ...").Do("Press");
+    EXPECT_TRUE(The(ATSPI_ROLE_DIALOG, "About Selvane").Exists());
+    ReadOut("Version " SELVANE_VERSION);
+    Button("OK").Do("Press");
     EXPECT_TRUE(ComesTrue([&] { return All(ATSPI_ROLE_DIALOG).empty(); }));
 }
 
