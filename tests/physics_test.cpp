@@ -1,5 +1,5 @@
 // The read-outs against a two-body computation of the test's own, in extended precision from
-// positions and velocities, and the simplified read-outs' distance from the truth.
+// positions and velocities. How far the simplified ones miss is the documents' matter.
 
 #include "app/number_text.h"
 #include "app/planets.h"
@@ -17,7 +17,7 @@ namespace {
 using replay::Stage;
 
 constexpr long double kPi = std::numbers::pi_v<long double>;
-constexpr int kOrbitsPerPlanet = 2000;
+constexpr int kOrbitsPerPlanet = 500;
 
 long double Radian(long double degrees)
 {
@@ -58,15 +58,6 @@ struct TwoBody
     long double Speed(long double anomaly) const
     {
         return std::sqrt(2 * (energy + mu / Radius(anomaly)));
-    }
-    // Seconds since the periapsis, for an anomaly of 0 to 360, by Kepler's equation.
-    long double TimeAt(long double anomaly) const
-    {
-        const long double half = Radian(anomaly) / 2;
-        const long double ratio = std::sqrt((1 - eccentricity) / (1 + eccentricity));
-        long double eccentric = 2 * std::atan2(ratio * std::sin(half), std::cos(half));
-        if (eccentric < 0) eccentric += 2 * kPi;
-        return (eccentric - eccentricity * std::sin(eccentric)) * period / (2 * kPi);
     }
 };
 
@@ -161,33 +152,6 @@ void ExpectExactReadOuts(const Stage& stage, const SweptOrbit& orbit)
         EXPECT_EQ(stage.sim.controls.labels[Index(label)].caption, caption);
 }
 
-// How far a simplified read-out stands from the truth over a sweep.
-class Distance
-{
-public:
-    void Add(double difference)
-    {
-        largest_ = std::max(largest_, std::fabs(difference));
-        squares_ += difference * difference;
-        ++count_;
-    }
-    double Largest() const { return largest_; }
-    void Print(const char* what, const char* unit) const
-    {
-        std::printf("[ SWEEP    ] %-24s typically %.2f, at most %.2f %s\n", what,
-                    std::sqrt(squares_ / count_), largest_, unit);
-    }
-
-private:
-    double largest_ = 0, squares_ = 0;
-    int count_ = 0;
-};
-
-double HalfTurn(double degrees)
-{
-    return std::remainder(degrees, 360);
-}
-
 } // namespace
 
 TEST(Physics, ExactReadOutsAgreeWithATwoBodyComputationToTheLastDigit)
@@ -226,43 +190,6 @@ TEST(Physics, EclipseOfACircleAgreesWithTheCylinderToOneSample)
                     static_cast<double>(truth.period / 360) * 1.0001)
             << altitude << " km, node " << node;
     }
-}
-
-TEST(Physics, SimplifiedReadOutsStayWithinWhatTheGuideSays)
-{
-    Stage stage;
-    Draw draw(99);
-    Distance stepTime, ascension, latitude, latitudeAtNode0;
-    for (int turn = 0; turn < 3000; ++turn) {
-        const int inclination = draw.Whole(0, 90);
-        const int node = turn % 2 == 0 ? 0 : draw.Whole(1, 359);
-        Type(stage.sim, txtIncl, std::to_string(inclination));
-        Type(stage.sim, txtRot, std::to_string(node));
-        const SweptOrbit orbit = Enter(stage, draw, 3 * turn);
-        const SimState& state = stage.sim.state;
-        if (orbit.anomaly < 359) {
-            const long double truth =
-                orbit.truth.TimeAt(orbit.anomaly + 1) - orbit.truth.TimeAt(orbit.anomaly);
-            const double shown =
-                1 / static_cast<double>(orbit.truth.Speed(orbit.anomaly) /
-                                        orbit.truth.Radius(orbit.anomaly) * 180 / kPi);
-            stepTime.Add(100 * (shown / static_cast<double>(truth) - 1));
-        }
-        const double along = (state.SatDeg + 90) * std::numbers::pi / 180;
-        const double tilt = inclination * std::numbers::pi / 180;
-        const double east = std::atan2(std::sin(along) * std::cos(tilt), std::cos(along));
-        ascension.Add(HalfTurn(state.SatRA - node - east * 180 / std::numbers::pi));
-        const double north = std::asin(std::sin(along) * std::sin(tilt));
-        (node == 0 ? latitudeAtNode0 : latitude).Add(state.SatLat - north * 180 / std::numbers::pi);
-    }
-    stepTime.Print("Time of a degree", "percent");
-    ascension.Print("RA and Lon", "degrees");
-    latitudeAtNode0.Print("Dec and Lat, node 0", "degrees");
-    latitude.Print("Dec and Lat, other nodes", "degrees");
-    EXPECT_LT(stepTime.Largest(), 60);
-    EXPECT_LE(ascension.Largest(), 90);
-    EXPECT_LT(latitudeAtNode0.Largest(), 13);
-    EXPECT_LT(latitude.Largest(), 47); // twice the Earth's tilt
 }
 
 } // namespace selvane

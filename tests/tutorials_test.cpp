@@ -148,7 +148,7 @@ TEST(Tutorials, NeverDisturbTheFlight)
         Stage alone, taught;
         Choose(alone.sim, scenario);
         Choose(taught.sim, scenario);
-        for (int action = 0; action < 2500; ++action) {
+        for (int action = 0; action < 1000; ++action) {
             Meddle(taught.sim, random);
             if (action % 8 != 0) continue;
             ASSERT_EQ(Tick(alone.sim, timer), std::nullopt);
