@@ -1,6 +1,7 @@
 // The rich-text pane, the user guide and the about box as a user meets them.
 #include "app/help_pane.h"
 #include "qt/about_window.h"
+#include "qt/appearance.h"
 #include "qt/dispatch.h"
 #include "qt/help_pane_widget.h"
 #include "qt/user_guide_window.h"
@@ -22,25 +23,14 @@ namespace {
 constexpr auto kNone = Qt::NoModifier;
 
 // A document with its words, links between angle brackets: "see <Energy.rtf>".
-HelpPane PaneOf(const std::string& body, unsigned loads = 1)
+HelpPane PaneOf(const std::string& body)
 {
-    std::string rtf = "{\\rtf1{\\colortbl;\\red200\\green0\\blue0;}\\fs20 ";
-    for (const char c : body) {
-        if (c == '<')
-            rtf += "{\\field{\\*\\fldinst HYPERLINK \"";
-        else if (c == '>')
-            rtf += "\"}{\\fldrslt link}}";
-        else
-            rtf += c;
-    }
-    return {"Test.rtf", ReadPaneText(rtf + "}"), loads};
-}
-
-std::string Long()
-{
-    std::string body;
-    for (int i = 0; i < 80; ++i) body += "line " + std::to_string(i) + "\\par ";
-    return body;
+    QString text = QString::fromStdString(body);
+    text.replace('<', "{\\field{\\*\\fldinst HYPERLINK \"").replace('>', "\"}{\\fldrslt link}}");
+    return {"Test.rtf",
+            ReadPaneText("{\\rtf1{\\colortbl;\\red200\\green0\\blue0;}\\fs20 " +
+                         text.toStdString() + "}"),
+            1};
 }
 
 struct Pane
@@ -54,10 +44,6 @@ struct Pane
         widget.show();
         widget.activateWindow();
         widget.setFocus();
-    }
-    void Click() // on the first word
-    {
-        QTest::mouseClick(widget.viewport(), Qt::LeftButton, kNone, QPoint(16, 20));
     }
     void Key(Qt::Key key, Qt::KeyboardModifiers held = kNone)
     {
@@ -90,7 +76,7 @@ template <typename Frame> struct Opened
     }
     QWidget* Find(std::string_view name) const
     {
-        return frame.template findChild<QWidget*>(QLatin1String(name.data(), int(name.size())));
+        return frame.template findChild<QWidget*>(TextOf(name));
     }
     void Press(std::string_view name, Qt::Key key)
     {
@@ -116,7 +102,7 @@ TEST(Pane, ALinkIsReportedByMouseAndKeyAndOneThatLeadsNowhereIsPlainText)
         Pane pane;
         pane.widget.ShowPane(PaneOf("<" + std::string(link) + "> words"));
         EXPECT_EQ(pane.FormatAt(0).isAnchor(), leads) << link;
-        pane.Click();
+        QTest::mouseClick(pane.widget.viewport(), Qt::LeftButton, kNone, QPoint(16, 20));
         pane.Key(Qt::Key_Tab);
         pane.Key(Qt::Key_Return); // the same link again
         EXPECT_EQ(pane.links.size(), leads ? 2 : 0) << link;
@@ -128,7 +114,7 @@ TEST(Pane, ALinkIsReportedByMouseAndKeyAndOneThatLeadsNowhereIsPlainText)
 TEST(Pane, ALoadStartsAtTheTopAndTheSameOneTouchesNothing)
 {
     Pane pane;
-    const HelpPane record = PaneOf(Long());
+    const HelpPane record = PaneOf(QString("line\\par ").repeated(80).toStdString());
     pane.widget.ShowPane(record);
     for (const auto& [key, back] : {std::pair{Qt::Key_Down, Qt::Key_Up},
                                     {Qt::Key_PageDown, Qt::Key_PageUp},
@@ -255,9 +241,9 @@ TEST(Pane, APictureIsDecodedAndShownInItsSize)
         ASSERT_EQ(image.size(), QSize(30, 20)) << format;
         const QImage window = pane.widget.viewport()->grab().toImage();
         const auto isNear = [](QColor one, QColor other) {
-            return std::abs(one.red() - other.red()) + std::abs(one.green() - other.green()) +
-                       std::abs(one.blue() - other.blue()) <
-                   40;
+            const int miss[] = {one.red() - other.red(), one.green() - other.green(),
+                                one.blue() - other.blue()};
+            return std::ranges::all_of(miss, [](int each) { return std::abs(each) < 20; });
         };
         EXPECT_TRUE(isNear(image.pixelColor(3, 3), QColor(250, 0, 0))) << format;
         EXPECT_TRUE(isNear(window.pixelColor(16, 16), QColor(250, 0, 0))) << format;
