@@ -69,6 +69,13 @@ bool Holds(const Expectation& expectation, const std::string& actual)
 
 } // namespace
 
+bool Expectation::IsAboutStrokes() const
+{
+    for (const std::string_view part : {".call.", ".calls", ".count.", ".digest"})
+        if (key.starts_with("pic") && key.find(part) != std::string::npos) return true;
+    return false;
+}
+
 std::vector<std::filesystem::path> StoryFiles()
 {
     std::vector<std::filesystem::path> files;

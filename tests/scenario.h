@@ -20,6 +20,9 @@ struct Expectation
     std::string key, value;
     std::optional<double> number, within{}; // of "near"
     bool drawn = false;
+
+    // Whether it is about drawing calls, which no window shows and which take long to tell.
+    bool IsAboutStrokes() const;
 };
 
 struct StoryLine

@@ -14,15 +14,22 @@ TEST_P(ScenarioOnCore, GoesAsTold)
 {
     const Story story = ReadStory(GetParam());
     replay::Player player;
-    std::optional<replay::Dump> dump; // of the present state, once somebody asks
+    std::optional<replay::Dump> records, strokes; // of the present state, once somebody asks
     for (const StoryLine& line : story.lines) {
         if (const auto* action = std::get_if<replay::Action>(&line.content)) {
             player.Do(*action);
-            dump.reset();
+            records.reset();
+            strokes.reset();
             continue;
         }
-        if (!dump) dump = player.Take(replay::Calls::Listed);
-        Check(story, line, std::get<Expectation>(line.content), *dump);
+        const auto& expectation = std::get<Expectation>(line.content);
+        if (expectation.IsAboutStrokes()) {
+            if (!strokes) strokes = player.Take(replay::Calls::Listed);
+        } else if (!records) {
+            records = replay::RecordsOf(player.Program());
+            replay::AddPlatform(*records, player.Machine());
+        }
+        Check(story, line, expectation, expectation.IsAboutStrokes() ? *strokes : *records);
     }
 }
 

@@ -7,13 +7,6 @@
 namespace selvane {
 namespace {
 
-bool IsAboutStrokes(const std::string& key)
-{
-    for (const std::string_view part : {".call.", ".calls", ".count.", ".digest"})
-        if (key.starts_with("pic") && key.find(part) != std::string::npos) return true;
-    return false;
-}
-
 class ScenarioOnWindow : public testing::TestWithParam<std::filesystem::path>
 {};
 
@@ -29,7 +22,7 @@ TEST_P(ScenarioOnWindow, GoesAsTold)
             continue;
         }
         const Expectation& expectation = std::get<Expectation>(line.content);
-        if (IsAboutStrokes(expectation.key)) continue;
+        if (expectation.IsAboutStrokes()) continue;
         if (!dump) {
             dump = player.Take();
             const std::string control = player.Disagreement();
