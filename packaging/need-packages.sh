@@ -68,8 +68,8 @@ packages_to_run=(build-essential cmake ninja-build qt6-base-dev qt6-wayland
                  fonts-crosextra-carlito)
 
 # What its tests and its package need besides.
-packages_to_check=(libgtest-dev libgmock-dev libmuparser-dev libbenchmark-dev clang clang-format diction
-                   desktop-file-utils appstream lintian man-db dpkg-dev file
+packages_to_check=(libgtest-dev libgmock-dev libmuparser-dev libbenchmark-dev clang clang-format
+                   diction desktop-file-utils appstream lintian man-db dpkg-dev file
                    pkg-config libatspi2.0-dev at-spi2-core dbus xvfb locales
                    libreoffice-writer-nogui)
 
