@@ -42,7 +42,7 @@ TEST(SimulationValue, ACopyGoesOnAsItsOriginalWouldAndLeavesItAlone)
         Player original;
         for (const std::string& line : SomeActions(seed, 10 * seed))
             original.Do(*ParseAction(line));
-        const Script rest = SomeActions(1000 + seed, 40);
+        const Script rest = SomeActions(1000 + seed, 25);
         Player copy = original;
         const Dump before = original.Take(Calls::Listed);
         const std::vector<Dump> ofCopy = Played(copy, rest);
@@ -57,7 +57,7 @@ TEST(SimulationValue, ACopyGoesOnAsItsOriginalWouldAndLeavesItAlone)
 
 TEST(SimulationValue, TwoGoOnTwoThreadsAsEachAlone)
 {
-    const std::array scripts = {SomeActions(31, 80), SomeActions(32, 80)};
+    const std::array scripts = {SomeActions(31, 50), SomeActions(32, 50)};
     std::array<std::vector<Dump>, 2> together;
     {
         std::vector<std::jthread> threads;
