@@ -536,7 +536,9 @@ TEST_F(WindowTest, OnlyAReturnFromTheProgramsOwnWindowsStartsOver)
     Trigger("mnAbout");
     QWidget* const about = shell->Windows().Widget(WindowId::About);
     ASSERT_TRUE(about && QTest::qWaitForWindowActive(about, 2000));
+    about->move(-50, 40);
     reactivate(*about);
+    EXPECT_EQ(about->pos(), QPoint(-50, 40)) << "it stays where the user has moved it";
     EXPECT_TRUE(IsActive(Sim(), WindowId::About));
 
     Click("btnPause"); // the window first, then the click
