@@ -18,12 +18,14 @@ float Single(double coordinate)
     return static_cast<float>(coordinate);
 }
 
-void Add(Picture& picture, const raster::Stroke& stroke, std::string_view text = {})
+raster::Stroke& Add(Picture& picture, StrokeKind kind, Colour colour, std::string_view text = {})
 {
     SELVANE_ASSERT(picture.drawing.Strokes().size() < kMostStrokes);
-    picture.drawing.Add(
-        stroke, {picture.ScaleLeft, picture.ScaleTop, picture.ScaleWidth, picture.ScaleHeight},
-        text);
+    raster::Stroke& stroke = picture.drawing.Add(
+        {picture.ScaleLeft, picture.ScaleTop, picture.ScaleWidth, picture.ScaleHeight}, text);
+    stroke.kind = kind;
+    stroke.colour = colour;
+    return stroke;
 }
 
 std::optional<Colour> FillOfClosedShape(const Picture& picture)
@@ -56,9 +58,7 @@ void Picture::Line(double x1, double y1, double x2, double y2)
 
 void Picture::Line(double x1, double y1, double x2, double y2, Colour colour)
 {
-    Add(*this, {.kind = StrokeKind::Line,
-                .colour = colour,
-                .at = {Single(x1), Single(y1), Single(x2), Single(y2)}});
+    Add(*this, StrokeKind::Line, colour).at = {Single(x1), Single(y1), Single(x2), Single(y2)};
 }
 
 void Picture::Circle(double x, double y, double radius)
@@ -68,10 +68,9 @@ void Picture::Circle(double x, double y, double radius)
 
 void Picture::Circle(double x, double y, double radius, Colour outline)
 {
-    Add(*this, {.kind = StrokeKind::Circle,
-                .colour = outline,
-                .fill = FillOfClosedShape(*this),
-                .at = {Single(x), Single(y), Single(radius)}});
+    raster::Stroke& circle = Add(*this, StrokeKind::Circle, outline);
+    circle.fill = FillOfClosedShape(*this);
+    circle.at = {Single(x), Single(y), Single(radius)};
 }
 
 void Picture::Circle(double x, double y, double radius, Colour outline, double start, double end)
@@ -79,17 +78,16 @@ void Picture::Circle(double x, double y, double radius, Colour outline, double s
     constexpr double kFullTurn = 2 * std::numbers::pi + 1e-9;
     SELVANE_ASSERT(std::fabs(start) <= kFullTurn && std::fabs(end) <= kFullTurn);
     const bool closed = start < 0 && end < 0;
-    Add(*this, {.kind = closed ? StrokeKind::Sector : StrokeKind::Arc,
-                .colour = outline,
-                .fill = closed ? FillOfClosedShape(*this) : std::nullopt,
-                .at = {Single(x), Single(y), Single(radius)},
-                .start = start,
-                .end = end});
+    raster::Stroke& arc = Add(*this, closed ? StrokeKind::Sector : StrokeKind::Arc, outline);
+    if (closed) arc.fill = FillOfClosedShape(*this);
+    arc.at = {Single(x), Single(y), Single(radius)};
+    arc.start = start;
+    arc.end = end;
 }
 
 void Picture::PSet(double x, double y)
 {
-    Add(*this, {.kind = StrokeKind::Dot, .colour = ForeColor, .at = {Single(x), Single(y)}});
+    Add(*this, StrokeKind::Dot, ForeColor).at = {Single(x), Single(y)};
 }
 
 void Picture::MoveTo(double x, double y)
@@ -100,7 +98,7 @@ void Picture::MoveTo(double x, double y)
 
 void Picture::Print(std::string_view text)
 {
-    Add(*this, {.kind = StrokeKind::Text, .colour = ForeColor, .at = {CurrentX, CurrentY}}, text);
+    Add(*this, StrokeKind::Text, ForeColor, text).at = {CurrentX, CurrentY};
 }
 
 } // namespace selvane

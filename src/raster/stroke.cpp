@@ -9,14 +9,15 @@ void Drawing::Clear()
     text_.clear();
 }
 
-void Drawing::Add(Stroke stroke, const UserScale& scale, std::string_view text)
+Stroke& Drawing::Add(const UserScale& scale, std::string_view text)
 {
     if (scales_.empty() || scales_.back() != scale) scales_.push_back(scale);
+    Stroke& stroke = strokes_.emplace_back();
     stroke.scale = static_cast<std::uint32_t>(scales_.size() - 1);
     stroke.textAt = static_cast<std::uint32_t>(text_.size());
     stroke.textLength = static_cast<std::uint32_t>(text.size());
     text_ += text;
-    strokes_.push_back(stroke);
+    return stroke;
 }
 
 bool Same(const Drawing& drawing, const Stroke& stroke, const Drawing& other,

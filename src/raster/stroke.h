@@ -52,8 +52,9 @@ class Drawing
 public:
     void Clear();
 
-    // The stroke's place in the drawing's lists is filled in here; `text` is that of a text.
-    void Add(Stroke stroke, const UserScale& scale, std::string_view text = {});
+    // A stroke at the end of the list, for the caller to fill in: all but its scale and its text,
+    // if it is one. Valid until the next.
+    Stroke& Add(const UserScale& scale, std::string_view text = {});
 
     std::span<const Stroke> Strokes() const { return strokes_; }
     std::string_view TextOf(const Stroke& stroke) const
