@@ -76,18 +76,18 @@ TEST(Projection, AgreesWithRotationMatrices)
                     ASSERT_NEAR(point.x, truth.x, 1e-9);
                     ASSERT_NEAR(point.y, truth.y, 1e-9);
                     ASSERT_NEAR(point.z, truth.z, 1e-9);
-                    ASSERT_NEAR(point.dist, std::hypot(truth.x, truth.y), 1e-9);
+                    ASSERT_NEAR(point.Dist(), std::hypot(truth.x, truth.y), 1e-9);
                     const double height = 10 * std::cos(Radian(inPlane)) * std::sin(turn.aboutY);
                     ASSERT_NEAR(point.planeZ, height, 1e-9);
-                    ASSERT_NEAR(std::hypot(point.planeDist, point.planeZ), 10, 1e-9);
+                    ASSERT_NEAR(std::hypot(point.PlaneDist(), point.planeZ), 10, 1e-9);
                 }
 }
 
 TEST(Projection, TheTwoBranchRuleTurnsTheNegativeYSideUp)
 {
     const Projected nothing = Project(0, 1, {2, 3, 4});
-    EXPECT_EQ(nothing.dist, 0);
-    EXPECT_EQ(nothing.planeDist, 0);
+    EXPECT_EQ(nothing.Dist(), 0);
+    EXPECT_EQ(nothing.PlaneDist(), 0);
     EXPECT_NEAR(Project(10, Radian(200), {}).x, 10 * std::cos(Radian(200)), 1e-12);
     EXPECT_NEAR(Project(10, Radian(200), {}).y, 10 * std::sin(Radian(200)), 1e-12);
     // Exactly on the x axis with z2 below 0: the angle is Pi / 2, so the point comes out mirrored.
@@ -117,11 +117,11 @@ TEST(Projection, WhatIsNextToAMarkCountsAsTheMark)
             }
     EXPECT_GT(onTheScreen, 1000);
 
-    const Projected onTheLimb{30, 40, 0, 50, 50, 0, 0, 0};
+    const Projected onTheLimb{30, 40, 0, 30, 40, 0, 0, 0};
     const double nearly = 50 * 1e-10, clearly = 50 * 1e-8;
     EXPECT_FALSE(IsInSight(onTheLimb, 50 - nearly));
     EXPECT_TRUE(IsInSight(onTheLimb, 50 - clearly));
-    const Projected onTheShadow{1, 30, -40, std::hypot(1.0, 30.0), 50, 0, 0, 0};
+    const Projected onTheShadow{1, 30, -40, 1, 30, -40, 0, 0};
     EXPECT_FALSE(IsInShadow(onTheShadow, 50 + nearly));
     EXPECT_TRUE(IsInShadow(onTheShadow, 50 + clearly));
 }

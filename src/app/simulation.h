@@ -6,6 +6,7 @@
 #include "app/controls.h"
 #include "app/picture.h"
 #include "app/platform.h"
+#include "app/projected_path.h"
 #include "app/sim_state.h"
 #include "app/windows.h"
 
@@ -22,6 +23,7 @@ struct Simulation
     Picture picSelvane{kPicSelvane}, picDemo{kPicDemo};
     std::vector<Request> requests; // what the handlers have asked of the machine, in their order
     LocalTime now;                 // the machine's time; a shell sets it before each event
+    OrbitPath orbitPath;           // the one computed last
 };
 
 // The picture that CurPic names: the main one where it names none.

@@ -61,8 +61,7 @@ Projected ProjectSatellite(Simulation& sim, double distance)
     SimState& state = sim.state;
     state.PosRadius = distance * state.KmScale;
     state.PosLat = Radians(state, state.SatDeg);
-    XYProjection(sim);
-    return StoredProjection(state);
+    return XYProjection(sim);
 }
 
 void PlaceMarker(Simulation& sim, const Projected& place)

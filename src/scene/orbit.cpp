@@ -5,29 +5,13 @@
 #include "scene/orbit_values.h"
 #include "scene/ring.h"
 
-#include <array>
 #include <cmath>
+#include <cstddef>
+#include <cstring>
 
 namespace selvane {
 
 namespace {
-
-// Where the orbit lies, apart from the planet's own place on the picture.
-struct OrbitPlace
-{
-    double semiMajor, eccentricity; // display units, none
-    double farthest;                // in-plane angle of the largest radius
-    Turn turn;
-};
-
-struct OrbitSample
-{
-    double radius; // display units
-    Projected point;
-};
-
-// A sample a degree; the last is the first once more.
-using OrbitPath = std::array<OrbitSample, kRingPoints>;
 
 struct PairFields
 {
@@ -106,46 +90,49 @@ void ReadOrientation(Simulation& sim)
 
 OrbitPath PathOf(const OrbitPlace& place)
 {
-    OrbitPath path;
+    OrbitPath path{place};
     const Projection project(place.turn);
-    for (std::size_t at = 0; at < path.size(); ++at) {
+    for (std::size_t at = 0; at < path.samples.size(); ++at) {
         const InPlaneAngle& angle = kWholeDegrees[at];
-        path[at].radius =
+        const double radius =
             RadiusAt(place.semiMajor, place.eccentricity, angle.radians - place.farthest);
-        path[at].point = project(path[at].radius, angle.cosine, angle.sine);
+        const Projected point = project(radius, angle.cosine, angle.sine);
+        path.samples[at] = {radius, point, IsInShadow(point, place.planetRadius)};
     }
     return path;
 }
 
-OrbitPath PresentPath(const SimState& state)
+// Computed only where the orbit lies elsewhere than at the last time, by the last bit: the sign of
+// a zero counts.
+const OrbitPath& PresentPath(Simulation& sim)
 {
-    return PathOf({state.SMajAxisPx,
-                   state.Ecc,
-                   Radians(state, state.ARGP),
-                   {state.PosLon, state.PosRoll, state.ViewRad}});
+    const SimState& state = sim.state;
+    const OrbitPlace place{state.SMajAxisPx,
+                           state.Ecc,
+                           Radians(state, state.ARGP),
+                           {state.PosLon, state.PosRoll, state.ViewRad},
+                           state.PlanetPx};
+    if (std::memcmp(&sim.orbitPath.place, &place, sizeof place) != 0) sim.orbitPath = PathOf(place);
+    return sim.orbitPath;
 }
 
-void Plot(Simulation& sim, const OrbitPath& path)
+void Plot(Simulation& sim)
 {
     const SimState& state = sim.state;
     Picture& picture = sim.picSelvane;
-    for (const auto& [radius, point] : path) {
-        picture.ForeColor = IsInShadow(point, state.PlanetPx) ? RGB(127, 127, 127) : kWhite;
+    for (const auto& [radius, point, inShadow] : PresentPath(sim).samples) {
+        picture.ForeColor = inShadow ? RGB(127, 127, 127) : kWhite;
         if (IsInSight(point, state.PlanetPx))
             picture.PSet(point.x + state.PlanetX, point.y + state.PlanetY);
     }
 }
 
 // Turns the orbit back by the planet's angle round the Sun, so that the Sun's direction lies on
-// the -x side again for the shadow. True when that moved the orbit.
-bool ReferToTheSun(SimState& state)
+// the -x side again for the shadow.
+void ReferToTheSun(SimState& state)
 {
-    if (state.OrbitMode == Scenario::ES2)
-        state.RAAN = state.RAAN - state.HelioDeg;
-    else if (state.OrbitMode != Scenario::SunSynch)
-        return false;
-    state.PosRoll = Radians(state, state.RAAN);
-    return true;
+    if (state.OrbitMode == Scenario::ES2) state.RAAN = state.RAAN - state.HelioDeg;
+    if (IsSunCentred(state.OrbitMode)) state.PosRoll = Radians(state, state.RAAN);
 }
 
 // The satellite's rate at that distance, display units.
@@ -160,12 +147,12 @@ void SetRate(SimState& state, double radius)
 void SumEclipse(SimState& state, const OrbitPath& path)
 {
     state.EclipseSec = 0;
-    for (const auto& [radius, point] : path) {
-        if (!IsInShadow(point, state.PlanetPx)) continue;
+    for (const auto& [radius, point, inShadow] : path.samples) {
+        if (!inShadow) continue;
         SetRate(state, radius);
         state.EclipseSec += state.SecPerDeg;
     }
-    SetRate(state, path.back().radius);
+    SetRate(state, path.samples.back().radius);
 }
 
 // What the loops leave behind: the last sample is the projection's present point.
@@ -185,11 +172,11 @@ void DrawOrbit(Simulation& sim)
     DeriveElements(sim);
     DerivePeriodAndScale(state);
     ReadOrientation(sim);
-    OrbitPath path = PresentPath(state);
-    Plot(sim, path);
-    if (ReferToTheSun(state)) path = PresentPath(state);
+    Plot(sim);
+    ReferToTheSun(state);
+    const OrbitPath& path = PresentPath(sim);
     SumEclipse(state, path);
-    LeaveLastSample(state, path.back());
+    LeaveLastSample(state, path.samples.back());
     PrintValues(sim);
 }
 

@@ -59,18 +59,16 @@ Projected Projection::operator()(double radius, double cosInPlane, double sinInP
     Projected point{};
     const double rho1 = std::sqrt(x1 * x1 + y1 * y1);
     point.angle1 = TwoBranchAngle(x1, y1);
-    const double x2 = rho1 * std::cos(point.angle1 + turn_.aboutZ);
-    const double y2 = rho1 * std::sin(point.angle1 + turn_.aboutZ);
+    point.planeX = rho1 * std::cos(point.angle1 + turn_.aboutZ);
+    point.planeY = rho1 * std::sin(point.angle1 + turn_.aboutZ);
     point.planeZ = z1;
-    point.planeDist = std::sqrt(x2 * x2 + y2 * y2);
 
-    const double rho2 = std::sqrt(y2 * y2 + z1 * z1);
-    point.angle2 = TwoBranchAngle(y2, z1);
+    const double rho2 = std::sqrt(point.planeY * point.planeY + z1 * z1);
+    point.angle2 = TwoBranchAngle(point.planeY, z1);
     const double size = std::fabs(radius);
-    point.x = Snapped(x2, 0, size);
+    point.x = Snapped(point.planeX, 0, size);
     point.y = Snapped(rho2 * std::cos(point.angle2 + turn_.aboutX), 0, size);
     point.z = Snapped(rho2 * std::sin(point.angle2 + turn_.aboutX), 0, size);
-    point.dist = std::sqrt(point.x * point.x + point.y * point.y);
     return point;
 }
 
@@ -81,7 +79,7 @@ Projected Project(double radius, double inPlane, Turn turn)
 
 bool IsInSight(const Projected& point, double planetRadius)
 {
-    return point.z > 0 || Snapped(point.dist, planetRadius, planetRadius) > planetRadius;
+    return point.z > 0 || Snapped(point.Dist(), planetRadius, planetRadius) > planetRadius;
 }
 
 bool IsInShadow(const Projected& point, double planetRadius)
@@ -101,25 +99,21 @@ void StoreProjected(SimState& state, const Projected& point)
     state.ProjX = point.x;
     state.ProjY = point.y;
     state.ProjZ = point.z;
-    state.ProjDist = point.dist;
-    state.ProjPlaneDist = point.planeDist;
+    state.ProjDist = point.Dist();
+    state.ProjPlaneDist = point.PlaneDist();
     state.ProjPlaneZ = point.planeZ;
     state.ProjAngle1 = point.angle1;
     state.ProjAngle2 = point.angle2;
 }
 
-Projected StoredProjection(const SimState& state)
-{
-    return {state.ProjX,         state.ProjY,      state.ProjZ,      state.ProjDist,
-            state.ProjPlaneDist, state.ProjPlaneZ, state.ProjAngle1, state.ProjAngle2};
-}
-
-void XYProjection(Simulation& sim)
+Projected XYProjection(Simulation& sim)
 {
     SimState& state = sim.state;
     LoadNegativeView(sim);
-    StoreProjected(state, Project(state.PosRadius, state.PosLat,
-                                  {state.PosLon, state.PosRoll, state.ViewRad}));
+    const Projected point =
+        Project(state.PosRadius, state.PosLat, {state.PosLon, state.PosRoll, state.ViewRad});
+    StoreProjected(state, point);
+    return point;
 }
 
 void XYProjection2(Simulation& sim)

@@ -4,29 +4,12 @@
 // the centre of the body that it draws.
 #pragma once
 
+#include "app/projected_path.h"
+
 namespace selvane {
 
 struct Simulation;
 struct SimState;
-
-// Turns about the three axes, applied in this order.
-struct Turn
-{
-    double aboutY, aboutZ, aboutX;
-
-    bool operator==(const Turn&) const = default;
-};
-
-// On the screen a coordinate next to 0 is exactly 0 (tolerance.h), so that the sign of x, y and z
-// is that of exact arithmetic.
-struct Projected
-{
-    double x, y, z;   // on the screen; z > 0: in front of the plane through the centre
-    double dist;      // from the centre on the screen
-    double planeDist; // from the centre in the x-y plane, before the turn about x
-    double planeZ;    // height over that plane, before the turn about x
-    double angle1, angle2;
-};
 
 // A turn whose fixed sine and cosine are worked out once for all points of a ring.
 class Projection
@@ -63,8 +46,8 @@ bool IsInSight(const Projected& point, double planetRadius);
 bool IsInShadow(const Projected& point, double planetRadius);
 
 // The orbit. Reads PosRadius, PosLat, PosLon, PosRoll and the number in txtView.
-// Writes ViewDeg, ViewRad (minus that number) and the outputs ProjX to ProjAngle2.
-void XYProjection(Simulation& sim);
+// Writes ViewDeg, ViewRad (minus that number) and the outputs ProjX to ProjAngle2; returns these.
+Projected XYProjection(Simulation& sim);
 
 // The turning globe. Reads PosRadius and the Globe angles; writes the outputs.
 void XYProjection2(Simulation& sim);
@@ -76,9 +59,8 @@ void XYProjectionD(Simulation& sim);
 // writes the outputs.
 void XYProjectionD0(Simulation& sim);
 
-// The outputs ProjX to ProjAngle2, written and read.
+// Writes the outputs ProjX to ProjAngle2.
 void StoreProjected(SimState& state, const Projected& point);
-Projected StoredProjection(const SimState& state);
 
 // Sets ViewDeg and ViewRad to minus the number in txtView.
 void LoadNegativeView(Simulation& sim);

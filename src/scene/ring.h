@@ -10,7 +10,7 @@ namespace selvane {
 
 struct Picture;
 
-inline constexpr int kRingPoints = 361;
+inline constexpr int kRingPoints = 361; // OrbitPath has as many
 
 struct InPlaneAngle
 {
