@@ -4,9 +4,9 @@
 // lblSat count from the corner of picSelvane.
 #pragma once
 
-#include "app/colour.h"
 #include "app/control_ids.h"
 #include "app/sim_state.h"
+#include "raster/colour.h"
 
 #include <algorithm>
 #include <array>

@@ -2,8 +2,8 @@
 // only the screen knows. The record is the truth; the screen is made to match it.
 #pragma once
 
-#include "app/colour.h"
 #include "app/control_ids.h"
+#include "raster/colour.h"
 
 #include <array>
 #include <memory>

@@ -1,8 +1,8 @@
 // The planet catalogue: five central bodies, chosen in the Planet menu.
 #pragma once
 
-#include "app/colour.h"
 #include "app/control_ids.h"
+#include "raster/colour.h"
 
 #include <span>
 #include <string_view>

@@ -5,8 +5,8 @@
 // such an ending are km. A field that nothing has written yet is 0 or empty.
 #pragma once
 
-#include "app/colour.h"
 #include "app/control_ids.h"
+#include "raster/colour.h"
 
 #include <cstdint>
 #include <string>

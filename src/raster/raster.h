@@ -2,7 +2,7 @@
 // pixel (i, j) covers i to i + 1 and j to j + 1.
 #pragma once
 
-#include "app/colour.h"
+#include "raster/colour.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,7 +3,7 @@
 // paints them, a test reads them, and two pictures are compared by them.
 #pragma once
 
-#include "app/colour.h"
+#include "raster/colour.h"
 
 #include <array>
 #include <cstddef>

@@ -3,7 +3,7 @@
 // Earth's path. Angles in radians, lengths in the picture's units.
 #pragma once
 
-#include "app/colour.h"
+#include "raster/colour.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 // Values as a dump writes them. Never looks at the locale.
 #pragma once
 
-#include "app/colour.h"
+#include "raster/colour.h"
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-// A colour as the screen shows it.
+// A colour as the screen shows it, of the strokes and of the program's records alike.
 #pragma once
 
 #include <cstdint>
