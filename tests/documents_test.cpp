@@ -2,8 +2,8 @@
 // program shows is read out of them and held against the program itself.
 
 #include "app/control_table.h"
-#include "claims.h"
 #include "help_documents.h"
+#include "lessons/claims.h"
 #include "replay/player.h"
 
 #include <algorithm>

@@ -4,19 +4,16 @@
 
 #include "app/control_table.h"
 #include "app/number_text.h"
-#include "claims.h"
 #include "help_documents.h"
-#include "replay/monkey.h"
+#include "lessons/claims.h"
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <fstream>
 #include <gmock/gmock.h>
 #include <map>
 #include <muParser.h>
 #include <numeric>
-#include <random>
 #include <set>
 
 namespace selvane {
@@ -167,25 +164,6 @@ std::string Rounded(double value, const std::string& like)
     return text;
 }
 
-// Anything that a user can do and come back from to the main window.
-void DoAnything(Player& player, std::uint64_t seed, int actions)
-{
-    replay::Monkey monkey(seed);
-    for (int each = 0; each < actions; ++each) {
-        const std::string line = monkey.Next();
-        const bool isTheUsers = !line.starts_with("close") && !line.starts_with("docs");
-        if (isTheUsers) player.Do(*replay::ParseAction(line));
-    }
-    player.Do(*replay::ParseAction("activate"));
-}
-
-// While the learner reads: the timer that is on ticks, the others refuse.
-void LetTimePass(Player& player, std::uint64_t ticks)
-{
-    for (const char* timer : {"tick tmrSat", "tick tmrES2", "tick tmrSunSynch"})
-        for (std::uint64_t tick = 0; tick < ticks; ++tick) player.Do(*replay::ParseAction(timer));
-}
-
 // Seconds of the clock on the wall for a number of steps of the satellite.
 double SecondsToWait(const std::string& actions, int steps)
 {
@@ -255,44 +233,6 @@ std::vector<int> NumbersBetween(const std::string& document, const std::string& 
 }
 
 } // namespace
-
-TEST(Worksheets, ShowWhatTheySayFromAFreshStart)
-{
-    const std::vector<claims::Page> pages = claims::ReadPages(kClaims);
-    EXPECT_GE(pages.size(), 6U);
-    std::size_t count = 0;
-    for (const claims::Page& page : pages) {
-        Player player;
-        claims::Learner learner(player);
-        learner.DoTasks(page);
-        learner.CheckFacts(page);
-        count += page.Claims().size();
-    }
-    EXPECT_GE(count, 100U);
-    std::cout << "[ COUNT    ] " << count << " claims and " << Sums().size()
-              << " sums on worksheets, answer sheets and the teachers' page\n";
-}
-
-TEST(Worksheets, ShowWhatTheySayAfterAnything)
-{
-    const std::vector<claims::Page> pages = claims::ReadPages(kClaims);
-    std::mt19937_64 random(14);
-    const char* wanted = std::getenv("SELVANE_WORKSHEET_ROUNDS"); // 300 for the long run
-    const int rounds = wanted ? std::atoi(wanted) : 3;
-    for (int round = 0; round < rounds && !HasFailure(); ++round) {
-        Player player;
-        std::vector<claims::Page> order = pages;
-        std::shuffle(order.begin(), order.end(), random);
-        for (const claims::Page& page : order) {
-            const std::uint64_t seed = random();
-            SCOPED_TRACE(page.document + ", seed " + std::to_string(seed));
-            DoAnything(player, seed, 50);
-            claims::Learner learner(player, [&] { LetTimePass(player, random() % 40); });
-            learner.DoTasks(page);
-            if (HasFailure()) break;
-        }
-    }
-}
 
 TEST(Worksheets, ContainTheWordsOfTheirClaimsAndSoDoTheLessons)
 {

@@ -1,4 +1,4 @@
-#include "claims.h"
+#include "lessons/claims.h"
 
 #include "app/control_table.h"
 
@@ -6,8 +6,8 @@
 #include <cmath>
 #include <cstdlib>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <sstream>
+#include <stdexcept>
 
 namespace selvane::claims {
 
@@ -57,10 +57,9 @@ Commands ReadCommands(const std::string& text)
             times = std::atoi(action.c_str());
             action.erase(0, star + 3);
         }
-        if (std::optional<replay::Action> parsed = replay::ParseAction(action))
-            commands.push_back({part, *parsed, times, std::move(until), std::move(unless)});
-        else
-            ADD_FAILURE() << "no action: " << part;
+        const std::optional<replay::Action> parsed = replay::ParseAction(action);
+        if (!parsed) throw std::runtime_error("no action: " + part);
+        commands.push_back({part, *parsed, times, std::move(until), std::move(unless)});
     }
     return commands;
 }
@@ -75,7 +74,7 @@ std::optional<Measure> TakeMeasure(std::string& key)
         std::istringstream rest(key.substr(at + word.size()));
         std::string within;
         rest >> measure.number >> within >> measure.within;
-        EXPECT_TRUE(rest && within == "within") << key;
+        if (!rest || within != "within") throw std::runtime_error("no measure: " + key);
         key.erase(at);
         return measure;
     }
@@ -196,18 +195,13 @@ std::vector<Page> ReadPages(const std::string& path)
 {
     std::vector<Page> pages;
     std::ifstream file(path);
-    EXPECT_TRUE(file) << path;
+    if (!file) throw std::runtime_error("cannot read " + path);
     for (std::string line; std::getline(file, line);) {
         line = Evened(line);
         if (line.empty() || line[0] == '#') continue;
-        if (!ReadLine(line, pages)) ADD_FAILURE() << "no claim: " << line;
+        if (!ReadLine(line, pages)) throw std::runtime_error(path + ": no claim: " + line);
     }
     return pages;
-}
-
-void Play(replay::Player& player, const std::string& actions)
-{
-    Learner(player).Take(ReadCommands(actions));
 }
 
 std::vector<std::string> Shown(const replay::Player& player, const std::string& key)
@@ -235,30 +229,43 @@ std::vector<std::string> Shown(const replay::Player& player, const std::string& 
     return {Evened(entry->second)};
 }
 
-bool Learner::IsMet(const Condition& condition) const
+namespace {
+
+bool IsMet(const replay::Player& player, const Condition& condition)
 {
-    const std::vector<std::string> shown = Shown(player_, condition.key);
+    const std::vector<std::string> shown = Shown(player, condition.key);
     return std::find(shown.begin(), shown.end(), condition.value) != shown.end();
+}
+
+void CarryOut(replay::Player& player, const Commands& commands)
+{
+    for (const auto& [text, action, times, until, unless] : commands) {
+        if (unless && IsMet(player, *unless)) continue;
+        const int most = until ? kMostRepetitions : times;
+        for (int time = 0; time < most && !(until && IsMet(player, *until)); ++time)
+            if (const Refusal refusal = player.Do(action))
+                throw std::runtime_error(text + ": " + *refusal);
+        if (until && !IsMet(player, *until)) throw std::runtime_error(text + ": never comes");
+    }
+}
+
+} // namespace
+
+void Play(replay::Player& player, const std::string& actions)
+{
+    CarryOut(player, ReadCommands(actions));
 }
 
 void Learner::Take(const Commands& commands)
 {
-    for (const Command& command : commands) {
-        if (command.unless && IsMet(*command.unless)) continue;
-        const int most = command.until ? kMostRepetitions : command.times;
-        for (int time = 0; time < most && !(command.until && IsMet(*command.until)); ++time) {
-            const Refusal refusal = player_.Do(command.action);
-            ASSERT_FALSE(refusal) << command.text << ": " << *refusal;
-        }
-        ASSERT_TRUE(!command.until || IsMet(*command.until)) << command.text << ": never comes";
-    }
+    CarryOut(player_, commands);
 }
 
 void Learner::Take(const Note& note)
 {
     const std::vector<std::string> shown = Shown(player_, note.key);
     const std::optional<double> number = shown.empty() ? std::nullopt : NumberIn(shown.front());
-    ASSERT_TRUE(number) << note.key << " shows no number";
+    if (!number) throw std::runtime_error(note.key + " shows no number");
     notes_[note.key] = *number;
 }
 
@@ -278,42 +285,44 @@ bool Learner::Holds(const Claim& claim, const std::string& text) const
 void Learner::Take(const Claim& claim)
 {
     const std::vector<std::string> shown = Shown(player_, claim.key);
-    EXPECT_TRUE(std::any_of(shown.begin(), shown.end(),
-                            [&](const std::string& text) { return Holds(claim, text); }))
-        << claim.quote << ": " << claim.key << " shows "
-        << (shown.empty() ? "nothing" : shown.front());
+    for (const std::string& text : shown)
+        if (Holds(claim, text)) return;
+    faults_.push_back(place_ + ": " + claim.quote + ": " + claim.key + " shows " +
+                      (shown.empty() ? "nothing" : shown.front()));
 }
 
-void Learner::Work(const Block& block)
+// The parts of that kind: tasks follow one another, each fact begins with the first line.
+void Learner::Study(const Page& page, Block::Kind kind)
 {
-    SCOPED_TRACE(block.name);
-    for (const Step& step : block.steps) {
-        std::visit([this](const auto& one) { Take(one); }, step);
-        if (testing::Test::HasFatalFailure()) return;
+    place_ = page.document;
+    try {
+        if (kind == Block::Kind::task) Take(page.first);
+        for (const Block& block : page.blocks) {
+            if (block.kind != kind) continue;
+            place_ = page.document + ", " + block.name;
+            if (kind == Block::Kind::task) pause_();
+            if (kind == Block::Kind::also) Take(page.first);
+            for (const Step& step : block.steps)
+                std::visit([this](const auto& one) { Take(one); }, step);
+        }
+    } catch (const std::runtime_error& fault) {
+        faults_.push_back(place_ + ": " + fault.what());
     }
 }
 
 void Learner::DoTasks(const Page& page)
 {
-    SCOPED_TRACE(page.document);
-    Take(page.first);
-    for (const Block& block : page.blocks) {
-        if (testing::Test::HasFatalFailure()) return;
-        if (block.kind != Block::Kind::task) continue;
-        pause_();
-        Work(block);
-    }
+    Study(page, Block::Kind::task);
 }
 
 void Learner::CheckFacts(const Page& page)
 {
-    SCOPED_TRACE(page.document);
-    for (const Block& block : page.blocks) {
-        if (testing::Test::HasFatalFailure()) return;
-        if (block.kind != Block::Kind::also) continue;
-        Take(page.first);
-        Work(block);
-    }
+    Study(page, Block::Kind::also);
+}
+
+void Learner::CheckFresh(const Page& page)
+{
+    Study(page, Block::Kind::fresh);
 }
 
 } // namespace selvane::claims

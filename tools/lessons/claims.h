@@ -90,10 +90,10 @@ struct Page
     std::vector<Claim> Claims() const;
 };
 
-// The pages of a file. A line that is none of the above is a failure of the test that reads it.
+// The pages of a file. Throws std::runtime_error where it cannot be read or holds another line.
 std::vector<Page> ReadPages(const std::string& path);
 
-// Does the actions; one that a user could not take is a failure of the test.
+// Does the actions. Throws std::runtime_error where one is none or a user could not take it.
 void Play(replay::Player& player, const std::string& actions);
 
 // What the program shows: one text for most keys, each text of the picture for "picDemo.text".
@@ -108,21 +108,25 @@ public:
         : player_(player), pause_(std::move(pause))
     {}
 
-    // What does not hold is a failure of the test.
     void DoTasks(const Page& page);
     void CheckFacts(const Page& page); // those beside the tasks, each from the first line
-    void Work(const Block& block);
-    void Take(const Commands& commands);
+    void CheckFresh(const Page& page); // those of a program that has just come up
+
+    // What did not hold, with its page and part. An action that cannot be taken ends the page.
+    const std::vector<std::string>& Faults() const { return faults_; }
 
 private:
+    void Study(const Page& page, Block::Kind kind);
+    void Take(const Commands& commands);
     void Take(const Note& note);
     void Take(const Claim& claim);
-    bool IsMet(const Condition& condition) const;
     bool Holds(const Claim& claim, const std::string& text) const;
 
     replay::Player& player_;
     std::function<void()> pause_;
     std::map<std::string, double> notes_;
+    std::string place_; // the page and the part in hand
+    std::vector<std::string> faults_;
 };
 
 } // namespace selvane::claims
