@@ -9,73 +9,68 @@ interface Spot {
   readonly height: number;
 }
 
+const kDialogs = ["", "frmUserGuide", "frmAbout"]; // by the number of their window
 const kShortestTrack = 40, kThumb = 26; // pixels
 
 export class Hand {
   constructor(private readonly page: Page) {}
 
-  async do(action: string): Promise<void> {
+  async do(action: string, times = 1): Promise<void> {
+    if (action.startsWith("tick "))
+      return this.page.evaluate((timer, count) => {
+        for (let each = 0; each < count; ++each) window.pageTest.tick(timer);
+      }, action.slice("tick ".length), times);
+    for (let each = 0; each < times; ++each) await this.doOnce(action);
+  }
+
+  private async doOnce(action: string): Promise<void> {
     const [verb = "", first = "", second = ""] = action.split(" ");
-    const typed = action.slice(verb.length + first.length + 2);
+    const rest = action.slice(verb.length + first.length + 2);
     switch (verb) {
       case "scroll": return this.scroll(first, Number(second));
-      case "arrow": return this.press("main", first, second === "+" ? ".more" : ".less");
+      case "arrow": return this.press(0, first, second === "+" ? ".more" : ".less");
       case "page": return this.pageBeside(first, second === "+");
-      case "type": return this.type(first, typed);
-      case "click": case "label": return this.press("main", first);
+      case "type": return this.type(first, rest);
+      case "click": case "label": return this.press(0, first);
       case "menu": return this.choose(first);
-      case "tick": return void (await this.page.evaluate((name) => window.pageTest.tick(name), first));
       case "activate": return this.activate("panel");
-      case "guide": return this.inDialog("guide", "frmUserGuide", first, second);
-      case "about": return this.inDialog("about", "frmAbout", first, second);
+      case "guide": return this.inDialog(1, first, second);
+      case "about": return this.inDialog(2, first, second);
       case "clock": return this.page.evaluate((time) => window.pageTest.setClock(time), first);
-      case "docs": return this.page.evaluate((present, name) => {
-        if (present) window.pageTest.missing.delete(name);
-        else window.pageTest.missing.add(name);
-      }, first === "present", action.slice("docs ".length + first.length + 1));
+      case "docs": return void (await this.page.evaluate((set, name) =>
+        window.pageTest.missing[set === "present" ? "delete" : "add"](name), first, rest));
       case "close": return void (await this.page.evaluate(() =>
         window.dispatchEvent(new PageTransitionEvent("pagehide", { persisted: false }))));
       default: throw new Error(`no action: ${action}`);
     }
   }
 
-  // Many ticks in one go.
-  async tickAll(timers: readonly string[]): Promise<void> {
-    await this.page.evaluate((names) => names.forEach((name) => window.pageTest.tick(name)), timers);
-  }
-
   // Where the control of an active window is, in view; a message that waits is pressed away first.
-  private async find(owner: string, id: string, part = ""): Promise<Spot | null> {
-    return this.page.evaluate((active, name, selector) => {
+  private async find(window: number, id: string, part = ""): Promise<Spot | null> {
+    return this.page.evaluate((owner, dialog, name, selector) => {
       document.querySelector<HTMLElement>("dialog.message button")?.click();
-      if (window.pageTest.dump()["window.active"] !== active) return null;
-      const dialog = { guide: "frmUserGuide", about: "frmAbout" }[active];
-      const control = (dialog && document.getElementById(`${dialog}.${name}`)) ||
-        document.getElementById(name);
+      if (globalThis.window.pageTest.call("test_active") !== owner) return null;
+      const control = document.getElementById(`${dialog}.${name}`) ?? document.getElementById(name);
       const element = selector === "" ? control : control?.parentElement?.querySelector(selector);
       if (!element?.checkVisibility()) return null;
       element.scrollIntoView({ block: "nearest", inline: "nearest" });
       const { x, y, width, height } = element.getBoundingClientRect();
       return { x, y, width, height };
-    }, owner, id, part);
+    }, window, kDialogs[window], id, part);
   }
 
-  private async clickAt({ x, y, width, height }: Spot): Promise<void> {
-    await this.page.mouse.click(x + width / 2, y + height / 2);
-  }
-
-  private async press(window: string, id: string, part = ""): Promise<void> {
+  private async press(window: number, id: string, part = ""): Promise<void> {
     const spot = await this.find(window, id, part);
-    if (spot) await this.clickAt(spot);
+    if (spot) await this.page.mouse.click(spot.x + spot.width / 2, spot.y + spot.height / 2);
   }
 
   private async scroll(bar: string, value: number): Promise<void> {
-    const track = await this.find("main", bar);
+    const track = await this.find(0, bar);
     if (!track) return;
     const [min = 0, max = 0] = await this.page.$eval(`#${bar}`, (range) =>
       [Number((range as HTMLInputElement).min), Number((range as HTMLInputElement).max)]);
     if (value > min && value < max) {
-      // A pixel of the groove stands for many values: a mouse reaches few of them.
+      // A pixel of the track stands for many values: a mouse reaches few of them.
       await this.page.$eval(`#${bar}`, (range, to) => {
         (range as HTMLInputElement).value = String(to);
         range.dispatchEvent(new Event("change"));
@@ -86,15 +81,14 @@ export class Hand {
     } else await this.drag(bar, track, value >= max);
   }
 
-  // Takes the thumb beyond an end of the groove and lets it go there.
+  // Takes the thumb beyond an end of the track and lets it go there.
   private async drag(bar: string, track: Spot, toEnd: boolean): Promise<void> {
-    const { x, y } = this.along(track, (await this.thumbStart(bar, track)) + kThumb / 2);
-    const far = (toEnd ? 1 : -1) * 2 * Math.max(track.width, track.height);
-    const across = track.width > track.height;
-    await this.page.mouse.move(x, y);
+    const start = await this.thumbStart(bar, track);
+    const far = 2 * Math.max(track.width, track.height);
+    const from = this.along(track, start + kThumb / 2), to = this.along(track, toEnd ? far : -far);
+    await this.page.mouse.move(from.x, from.y);
     await this.page.mouse.down();
-    await this.page.mouse.move(Math.max(0, x + (across ? far : 0)),
-                               Math.max(0, y + (across ? 0 : far)));
+    await this.page.mouse.move(Math.max(0, to.x), Math.max(0, to.y));
     await this.page.mouse.up();
   }
 
@@ -112,66 +106,59 @@ export class Hand {
   }
 
   private async pageBeside(bar: string, forward: boolean): Promise<void> {
-    const track = await this.find("main", bar);
+    const track = await this.find(0, bar);
     if (!track) return;
-    const length = Math.max(track.width, track.height), kRoom = 3;
+    const length = Math.max(track.width, track.height), kBeside = 3;
     const start = length < kShortestTrack ? 0 : await this.thumbStart(bar, track);
-    const place = forward ? length - 1 : 1;
-    if (length >= kShortestTrack && (forward ? start + kThumb + kRoom < length : start > kRoom)) {
-      const { x, y } = this.along(track, place);
-      await this.page.mouse.click(x, y);
-      return;
+    if (length >= kShortestTrack &&
+        (forward ? start + kThumb + kBeside < length : start > kBeside)) {
+      const { x, y } = this.along(track, forward ? length - 1 : 1);
+      return this.page.mouse.click(x, y);
     }
-    await this.page.focus(`#${bar}`); // no room left beside the thumb
+    await this.page.focus(`#${bar}`); // nothing left beside the thumb
     await this.page.keyboard.press(forward ? "PageDown" : "PageUp");
   }
 
   private async type(field: string, text: string): Promise<void> {
-    const spot = await this.find("main", field);
+    const spot = await this.find(0, field);
     if (!spot) return;
-    await this.clickAt(spot);
-    await this.page.keyboard.down("Control");
-    await this.page.keyboard.press("a");
-    await this.page.keyboard.up("Control");
-    await this.page.keyboard.press("Delete");
-    if (text.length < 8 && /^[ -~]*$/.test(text)) await this.page.keyboard.type(text);
+    await this.page.mouse.click(spot.x + spot.width / 2, spot.y + spot.height / 2);
+    await this.page.$eval(`#${field}`, (input) => (input as HTMLInputElement).select());
+    if (text === "") await this.page.keyboard.press("Delete");
+    else if (/^[ -~]{1,3}$/.test(text)) await this.page.keyboard.type(text);
     else await this.page.keyboard.sendCharacter(text);
   }
 
   private async choose(item: string): Promise<void> {
-    const title = await this.page.evaluate((id) => {
-      const menu = document.getElementById(id)?.closest(".menu");
-      return menu?.parentElement?.querySelector(".title")?.id ?? "";
-    }, item);
-    if (title === "" || !(await this.find("main", title))) return;
-    await this.press("main", title);
-    await this.press("main", item);
+    const title = await this.page.evaluate((id) => document.getElementById(id)?.closest(".menu")
+      ?.parentElement?.querySelector(".title")?.id ?? "", item);
+    if (title === "" || !(await this.find(0, title))) return;
+    await this.press(0, title);
+    await this.press(0, item);
+    await this.moveDialogsAside();
   }
 
-  private async inDialog(window: string, dialog: string, verb: string, id: string): Promise<void> {
-    if (verb === "activate") return this.activate(`${dialog}.caption`);
-    if (verb === "click") return this.press(window, id);
-    const close = await this.page.$(`#${dialog} .close`);
-    await close?.click();
-  }
-
-  // By a click on its title, or on a bare place of the main window.
-  private async activate(id: string): Promise<void> {
-    const element = await this.page.$(`[id="${id}"]`);
-    const box = await element?.boundingBox();
-    if (!box) return;
-    const place = id === "panel" ? { x: box.x + box.width - 6, y: box.y + box.height - 6 }
-                                 : { x: box.x + 60, y: box.y + 10 };
-    await this.page.mouse.click(place.x, place.y);
-  }
-
-  // A dialog that has come up is drawn aside, off the main window's controls.
-  async drawDialogsAside(): Promise<void> {
+  // A dialog that has come up is moved off the main window's controls.
+  private async moveDialogsAside(): Promise<void> {
     await this.page.evaluate(() => {
       for (const dialog of document.querySelectorAll<HTMLElement>(".dialog")) {
         dialog.style.left = "1260px";
         if (dialog.id === "frmAbout") dialog.style.top = "720px";
       }
     });
+  }
+
+  private async inDialog(window: number, verb: string, id: string): Promise<void> {
+    if (verb === "activate") return this.activate(`${kDialogs[window]}.caption`);
+    if (verb === "click") return this.press(window, id);
+    await (await this.page.$(`#${kDialogs[window]} .close`))?.click();
+  }
+
+  // By a click on its title, or on a bare place of the main window.
+  private async activate(id: string): Promise<void> {
+    const box = await (await this.page.$(`[id="${id}"]`))?.boundingBox();
+    if (box && id === "panel")
+      await this.page.mouse.click(box.x + box.width - 6, box.y + box.height - 6);
+    else if (box) await this.page.mouse.click(box.x + 60, box.y + 10);
   }
 }

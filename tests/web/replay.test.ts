@@ -1,11 +1,11 @@
-// Replay as WebAssembly against the native one: the same bytes for 200 random scripts.
+// Replay as WebAssembly against the native one: the same bytes for random scripts and every story.
 import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
-import { test } from "node:test";
-import { loadTestModule } from "./module";
+import { readdirSync, readFileSync } from "node:fs";
+import { onPage } from "./on_page";
 
 const kNative = process.env["SELVANE_REPLAY"] ?? "build/release/bin/replay";
-const kScripts = 200, kActions = 40;
+const kScripts = 20, kActions = 200, kStories = "tests/scenarios";
 
 // The first line that differs, so that a failure says something.
 function firstDifference(one: string, other: string): string {
@@ -14,18 +14,25 @@ function firstDifference(one: string, other: string): string {
   return at < 0 ? "" : `line ${at + 1}: ${one.split("\n")[at]} | ${lines[at]}`;
 }
 
-test("replay gives the same dumps as the native one", async () => {
-  const module = await loadTestModule();
-  const different: string[] = [];
+// Its actions, each in a line.
+function scriptOf(story: string): string {
+  return story.replace(/^(#|expect |near |drawn ).*\n/gm, "").replace(/^(\d+) \* (.*\n)/gm,
+    (_, times: string, action: string) => action.repeat(Number(times)));
+}
+
+onPage("replay gives the same dumps as the native one", async (page) => {
+  const scripts = await page.evaluate((count, actions) =>
+    Array.from({ length: count }, (_, seed) =>
+      window.pageTest.text("test_monkey", "", seed + 1, actions)), kScripts, kActions);
+  for (const script of scripts) assert.equal(script.split("\n").length, kActions + 1);
+  for (const file of readdirSync(kStories))
+    scripts.push(scriptOf(readFileSync(`${kStories}/${file}`, "utf8")));
   let bytes = 0;
-  for (let seed = 1; seed <= kScripts; ++seed) {
-    const script = module.text("test_monkey", "", seed, kActions);
-    assert.equal(script.split("\n").length, kActions + 1);
-    const here = module.text("test_replay", script);
+  for (const script of scripts) {
+    const here = await page.evaluate((text) => window.pageTest.text("test_replay", text), script);
     const there = execFileSync(kNative, ["-"], { input: script, maxBuffer: 1 << 28 }).toString();
     bytes += there.length;
-    if (here !== there) different.push(`seed ${seed}, ${firstDifference(there, here)}`);
+    assert.equal(here === there ? "" : firstDifference(there, here), "", script);
   }
-  assert.deepEqual(different, []);
-  assert.ok(bytes > kScripts * 10_000, "the dumps say too little");
+  assert.ok(bytes > scripts.length * 10_000, "the dumps say too little");
 });

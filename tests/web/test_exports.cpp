@@ -6,7 +6,6 @@
 #include "replay/replay.h"
 #include "web/exports.h"
 
-#include <optional>
 #include <sstream>
 
 namespace selvane::web {
@@ -16,18 +15,18 @@ namespace {
 using replay::Calls;
 using replay::Dump;
 
-Dump DumpOf(const Simulation& sim)
+Dump DumpOf(const Simulation& sim, Calls calls)
 {
     Dump dump = replay::RecordsOf(sim);
-    replay::AddStrokes(dump, kPicSelvane.name, sim.picSelvane.drawing, Calls::Listed);
-    replay::AddStrokes(dump, kPicDemo.name, sim.picDemo.drawing, Calls::Listed);
+    replay::AddStrokes(dump, kPicSelvane.name, sim.picSelvane.drawing, calls);
+    replay::AddStrokes(dump, kPicDemo.name, sim.picDemo.drawing, calls);
     return dump;
 }
 
 // The program beside the page's, on a scripted machine.
-std::optional<replay::Player>& Twin()
+replay::Player& Twin()
 {
-    static std::optional<replay::Player> twin;
+    static replay::Player twin;
     return twin;
 }
 
@@ -36,26 +35,30 @@ std::optional<replay::Player>& Twin()
 extern "C" {
 
 // The dump of the page's simulation.
-EXPORT(test_dump) int TestDump()
+EXPORT(test_dump) int TestDump(bool listed)
 {
-    return Output(replay::Lines(DumpOf(PageSimulation())));
+    return Output(replay::Lines(DumpOf(PageSimulation(), listed ? Calls::Listed : Calls::Counted)));
 }
 
-// The twin starts afresh; it takes the action in the input, and the reason comes back where it
-// refuses; what differs between the page's simulation and the twin, empty when nothing does.
-EXPORT(test_twin_start) void TestTwinStart()
-{
-    Twin().emplace();
-}
+// The twin takes the action in the input; the reason comes back where it refuses.
 EXPORT(test_twin_do) int TestTwinDo(int bytes)
 {
     const auto action = replay::ParseAction(InputText(bytes));
-    if (!action) return Output("no action");
-    return Output(Twin()->Do(*action).value_or(""));
+    return Output(action ? Twin().Do(*action).value_or("") : "no action");
 }
+
+// What differs between the page's simulation and the twin; empty when nothing does.
 EXPORT(test_twin_differences) int TestTwinDifferences()
 {
-    return Output(replay::Changes(DumpOf(Twin()->Program()), DumpOf(PageSimulation())));
+    return Output(replay::Changes(DumpOf(Twin().Program(), Calls::Counted),
+                                  DumpOf(PageSimulation(), Calls::Counted)));
+}
+
+// How much the twin has asked of its machine, and what last.
+EXPORT(test_twin_requests) int TestTwinRequests()
+{
+    const auto& machine = Twin().Machine();
+    return Output(std::to_string(machine.Calls()) + ' ' + machine.LastCall());
 }
 
 // Which window is active, as the page names them by number; the module's memory in bytes.
