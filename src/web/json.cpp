@@ -1,7 +1,5 @@
 #include "web/json.h"
 
-#include <array>
-
 namespace selvane::web {
 
 Json& Json::Open(char bracket)
@@ -32,10 +30,22 @@ Json& Json::Value(std::string_view text)
     return *this;
 }
 
-Json& Json::Raw(std::string_view text)
+Json& Json::Value(std::optional<Colour> colour)
+{
+    if (!colour) return Raw("null");
+    return Open('[').Value(colour->red).Value(colour->green).Value(colour->blue).Close(']');
+}
+
+Json& Json::Value(const Place& place)
+{
+    Open('[').Value(place.left).Value(place.top);
+    return Value(place.width).Value(place.height).Close(']');
+}
+
+Json& Json::Raw(std::string_view json)
 {
     Separate();
-    text_ += text;
+    text_ += json;
     return *this;
 }
 

@@ -39,12 +39,12 @@ std::optional<std::string> PagePlatform::ReadDocument(std::string_view name) con
 
 void PagePlatform::OpenLink(std::string_view target)
 {
-    orders.push_back({Order::Kind::Link, std::string(target), ""});
+    orders.push_back({"link", std::string(target), ""});
 }
 
 void PagePlatform::ShowMessage(std::string_view text, std::string_view title)
 {
-    orders.push_back({Order::Kind::Message, std::string(text), std::string(title)});
+    orders.push_back({"message", std::string(text), std::string(title)});
 }
 
 raster::Mask PageTextMasks::MaskOf(std::string_view text, double scale)

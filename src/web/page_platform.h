@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace selvane::web {
@@ -19,8 +20,8 @@ public:
     // What the page is to do once the event is over, in its order.
     struct Order
     {
-        enum class Kind { Link, Message } kind;
-        std::string text, title;
+        std::string_view kind;   // "link" or "message"
+        std::string text, title; // of a message; the link
     };
     std::vector<Order> orders;
 

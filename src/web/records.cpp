@@ -1,186 +1,51 @@
 #include "web/records.h"
 
 #include "app/control_table.h"
+#include "app/handlers.h"
 #include "app/help_pane.h"
 #include "rich_text/html.h"
-#include "web/json.h"
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
+#include <utility>
 
 namespace selvane::web {
 
 namespace {
 
-// What the page shows of a record.
-auto Shown(const ScrollBar& bar)
+std::string JsonOf(const ScrollBar& bar)
 {
-    return std::tie(bar.min, bar.max, bar.smallChange, bar.largeChange, bar.value, bar.visible);
-}
-auto Shown(const NumberField& field)
-{
-    return std::tie(field.text, field.fault, field.visible);
-}
-auto Shown(const Button& button)
-{
-    return std::tie(button.visible);
-}
-auto Shown(const Label& label)
-{
-    return std::tie(label.caption, label.toolTip, label.visible);
-}
-auto Shown(const Timer& timer)
-{
-    return std::tie(timer.enabled, timer.interval);
-}
-auto Shown(const MenuItem& item)
-{
-    return std::tie(item.checked);
+    return Json()
+        .Object("min", bar.min, "max", bar.max, "small", bar.smallChange, "value", bar.value,
+                "visible", bar.visible)
+        .Text();
 }
 
-void Write(Json& json, const ScrollBar& bar)
+std::string JsonOf(const NumberField& field)
 {
-    json.Open('{').Field("min", bar.min).Field("max", bar.max).Field("small", bar.smallChange);
-    json.Field("large", bar.largeChange).Field("value", bar.value).Field("visible", bar.visible);
-    json.Close('}');
-}
-void Write(Json& json, const NumberField& field)
-{
-    json.Open('{').Field("text", field.text).Field("fault", field.fault);
-    json.Field("visible", field.visible).Close('}');
-}
-void Write(Json& json, const Button& button)
-{
-    json.Value(button.visible);
-}
-void Write(Json& json, const Label& label)
-{
-    json.Open('{').Field("caption", label.caption).Field("toolTip", label.toolTip);
-    json.Field("visible", label.visible).Close('}');
-}
-void Write(Json& json, const Timer& timer)
-{
-    json.Open('{').Field("enabled", timer.enabled).Field("interval", timer.interval).Close('}');
-}
-void Write(Json& json, const MenuItem& item)
-{
-    json.Value(item.checked);
+    return Json().Object("text", field.text, "fault", field.fault, "visible", field.visible).Text();
 }
 
-void Write(Json& json, std::optional<Colour> colour)
+std::string JsonOf(const Button& button)
 {
-    if (!colour) {
-        json.Null();
-        return;
-    }
-    json.Open('[').Value(colour->red).Value(colour->green).Value(colour->blue).Close(']');
+    return Json().Object("visible", button.visible).Text();
 }
 
-// Records and table stand in the same order.
-template <typename Records, typename Table>
-void WriteChanged(Json& json, std::string_view key, const Records& records, const Records* sent,
-                  const Table& table)
+std::string JsonOf(const Label& label)
 {
-    json.Key(key).Open('{');
-    for (std::size_t at = 0; at < records.size(); ++at) {
-        if (sent && Shown(records[at]) == Shown((*sent)[at])) continue;
-        json.Key(table[at].name);
-        Write(json, records[at]);
-    }
-    json.Close('}');
+    return Json()
+        .Object("caption", label.caption, "toolTip", label.toolTip, "visible", label.visible)
+        .Text();
 }
 
-bool SameDocument(const HelpPane& one, const HelpPane& other)
+std::string JsonOf(const Timer& timer)
 {
-    return one.text == other.text && one.loads == other.loads;
+    return Json().Object("enabled", timer.enabled, "interval", timer.interval).Text();
 }
 
-rich_text::HtmlLink HtmlLinkOf(std::string_view link)
+std::string JsonOf(const MenuItem& item)
 {
-    using enum rich_text::HtmlLink::Kind;
-    const LinkTarget target = LinkTargetOf(link);
-    if (target.kind == LinkTarget::Kind::Document) return {Document, {}};
-    if (target.kind == LinkTarget::Kind::Web) return {Web, target.address};
-    return {};
-}
-
-std::string HtmlOf(const HelpPane& pane)
-{
-    return pane.text ? rich_text::ToHtml(*pane.text, HtmlLinkOf) : "";
-}
-
-void Write(Json& json, const HelpPane& pane)
-{
-    json.Open('{').Field("html", HtmlOf(pane)).Close('}');
-}
-
-void Write(Json& json, const AboutWindow& about)
-{
-    json.Open('{').Field("caption", about.caption).Key("texts").Open('{');
-    json.Field("lblTitle", about.lblTitle).Field("lblVersion", about.lblVersion);
-    std::string lines = about.lblDisclaimer; // one line's end, whichever of its two comes first
-    std::erase(lines, '\r');
-    json.Field("lblDisclaimer", lines).Close('}').Close('}');
-}
-
-bool IsLoaded(const Windows& windows, WindowId window)
-{
-    return std::ranges::find(windows.order, window) != windows.order.end();
-}
-
-std::string_view NameOf(WindowId window)
-{
-    constexpr std::string_view kNames[] = {"main", "guide", "about"};
-    return kNames[Index(window)];
-}
-
-void WriteWindows(Json& json, const Windows& windows, const Windows* sent)
-{
-    const bool guide = IsLoaded(windows, WindowId::UserGuide);
-    const bool about = IsLoaded(windows, WindowId::About);
-    const bool guideWas = sent && IsLoaded(*sent, WindowId::UserGuide);
-    const bool aboutWas = sent && IsLoaded(*sent, WindowId::About);
-    if (guide &&
-        (!guideWas || !SameDocument(windows.frmUserGuide.txtHelp, sent->frmUserGuide.txtHelp))) {
-        json.Key("guide");
-        Write(json, windows.frmUserGuide.txtHelp);
-    }
-    if (about && !aboutWas) {
-        json.Key("about");
-        Write(json, windows.frmAbout);
-    }
-    if (guideWas && !guide) json.Key("guide").Null();
-    if (aboutWas && !about) json.Key("about").Null();
-    if (!windows.order.empty() && (!sent || sent->order != windows.order))
-        json.Field("active", NameOf(windows.order.back()));
-    if (sent && sent->raises != windows.raises)
-        json.Field("raised", static_cast<int>(windows.raises));
-    if (!windows.running) json.Field("running", false);
-}
-
-void WriteOrders(Json& json, const std::vector<PagePlatform::Order>& orders)
-{
-    json.Key("requests").Open('[');
-    for (const PagePlatform::Order& order : orders) {
-        if (order.kind == PagePlatform::Order::Kind::Link)
-            json.Open('{').Field("kind", "link").Field("target", order.text).Close('}');
-        else
-            json.Open('{')
-                .Field("kind", "message")
-                .Field("text", order.text)
-                .Field("title", order.title)
-                .Close('}');
-    }
-    json.Close(']');
-}
-
-// The row of the pair that rules the orbit's shape; minus one where none does.
-int RulingRow(ShapePair pair)
-{
-    const auto rows = ShapePairTable();
-    const auto found = std::ranges::find(rows, pair, &ShapePairRow::pair);
-    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+    return Json().Object("checked", item.checked).Text();
 }
 
 // The place in the picture's pixels of a coordinate in its user units, held to what a place on a
@@ -192,84 +57,161 @@ int PixelAt(double coordinate, double scaleStart, double scaleLength, int pixels
     return static_cast<int>(std::lround(std::clamp(place, -kFarOutside, kFarOutside)));
 }
 
+std::string JsonOf(const Marker& marker, const Picture& picture)
+{
+    if (!marker.left || !marker.top) return Json().Object("visible", false).Text();
+    return Json()
+        .Object("left", PixelAt(*marker.left, picture.ScaleLeft, picture.ScaleWidth, picture.Width),
+                "top", PixelAt(*marker.top, picture.ScaleTop, picture.ScaleHeight, picture.Height),
+                "colour", marker.back, "visible", marker.visible)
+        .Text();
+}
+
+std::string JsonOf(const AboutWindow& about)
+{
+    std::string lines = about.lblDisclaimer; // one line's end, whichever of its two comes first
+    std::erase(lines, '\r');
+    return Json()
+        .Object("caption", about.caption, "lblTitle", about.lblTitle, "lblVersion",
+                about.lblVersion, "lblDisclaimer", lines)
+        .Text();
+}
+
+rich_text::HtmlLink HtmlLinkOf(std::string_view link)
+{
+    using enum rich_text::HtmlLink::Kind;
+    const LinkTarget target = LinkTargetOf(link);
+    if (target.kind == LinkTarget::Kind::Document) return {Document, {}};
+    if (target.kind == LinkTarget::Kind::Web) return {Web, target.address};
+    return {};
+}
+
+bool IsLoaded(const Windows& windows, WindowId window)
+{
+    return std::ranges::find(windows.order, window) != windows.order.end();
+}
+
+// The frame round the pair that rules the orbit's shape; null where none does.
+std::string RulingFrame(ShapePair pair)
+{
+    const auto rows = ShapePairTable();
+    const auto found = std::ranges::find(rows, pair, &ShapePairRow::pair);
+    return found == rows.end() ? "null" : Json().Value(found->frame).Text();
+}
+
 } // namespace
 
-ChangeWriter::MarkerPlace ChangeWriter::PlaceOf(const Simulation& sim)
+bool ChangeWriter::IsNew(std::string_view name, std::string json)
 {
-    const Marker& record = sim.controls.lblSat;
-    const Picture& picture = sim.picSelvane;
-    if (!record.left || !record.top) return {};
-    return {PixelAt(*record.left, picture.ScaleLeft, picture.ScaleWidth, picture.Width),
-            PixelAt(*record.top, picture.ScaleTop, picture.ScaleHeight, picture.Height),
-            record.back, record.visible};
+    auto found = sent_.find(name);
+    if (found == sent_.end()) found = sent_.emplace(name, "").first;
+    if (found->second == json) return false;
+    found->second = std::move(json);
+    return true;
 }
 
-void ChangeWriter::WriteSpoken(Json& json, std::string_view element, const SpokenText& text)
+void ChangeWriter::Send(std::string_view name, std::string json)
 {
-    auto& sent = spoken_[std::string(element)];
-    if (sent == text) return;
-    sent = text;
-    json.Key(element).Open('[').Value(text.name).Value(text.description).Close(']');
+    if (IsNew(name, json)) json_.Key(name).Raw(json);
 }
 
-void ChangeWriter::WriteSpoken(Json& json, const Simulation& sim)
+void ChangeWriter::Forget(std::string_view window)
+{
+    std::erase_if(sent_,
+                  [=](const auto& each) { return each.first.find(window) != std::string::npos; });
+}
+
+void ChangeWriter::WriteControls(const Simulation& sim)
+{
+    const Controls& now = sim.controls;
+    // Records and table stand in the same order.
+    const auto controls = [this](const auto& records, const auto& table) {
+        for (std::size_t at = 0; at < records.size(); ++at)
+            Send(table[at].name, JsonOf(records[at]));
+    };
+    json_.Key("controls").Open('{');
+    controls(now.scrollBars, ScrollBarTable());
+    controls(now.fields, FieldTable());
+    controls(now.buttons, ButtonTable());
+    controls(now.labels, LabelTable());
+    controls(now.timers, TimerTable());
+    controls(now.menu, MenuTable());
+    Send("lblSat", JsonOf(now.lblSat, sim.picSelvane));
+    json_.Close('}');
+}
+
+// A window that is opened again is made again, and everything in it sent again.
+void ChangeWriter::WriteWindows(const Windows& windows)
+{
+    Json order;
+    order.Open('[');
+    for (const WindowId window : windows.order) order.Value(static_cast<int>(window));
+    order.Close(']');
+    if (IsNew("windows", order.Text())) {
+        json_.Key("windows").Raw(order.Text());
+        if (!IsLoaded(windows, WindowId::UserGuide)) Forget("frmUserGuide");
+        if (!IsLoaded(windows, WindowId::About)) Forget("frmAbout");
+    }
+    Send("raised", std::to_string(windows.raises));
+    Send("running", windows.running ? "true" : "false");
+    if (IsLoaded(windows, WindowId::About)) Send("frmAbout", JsonOf(windows.frmAbout));
+}
+
+void ChangeWriter::WritePane(std::string_view element, const HelpPane& pane)
+{
+    if (!IsNew(element, std::to_string(pane.loads))) return;
+    json_.Key(element).Value(pane.text ? rich_text::ToHtml(*pane.text, HtmlLinkOf) : "");
+}
+
+void ChangeWriter::WriteSpoken(std::string_view element, const SpokenText& text)
+{
+    std::string words = Json().Open('[').Value(text.name).Value(text.description).Close(']').Text();
+    if (IsNew("spoken " + std::string(element), words)) json_.Key(element).Raw(words);
+}
+
+void ChangeWriter::WriteSpoken(const Simulation& sim)
 {
     const auto controls = [&](const auto& table) {
-        for (const auto& row : table) WriteSpoken(json, row.name, Spoken(sim, row.id));
+        for (const auto& row : table) WriteSpoken(row.name, Spoken(sim, row.id));
     };
-    json.Key("spoken").Open('{');
+    json_.Key("spoken").Open('{');
     controls(ScrollBarTable());
     controls(FieldTable());
     controls(ButtonTable());
-    controls(LabelTable());
-    WriteSpoken(json, kPicSelvane.name, SpokenMainPicture(sim));
-    WriteSpoken(json, kPicDemo.name, SpokenTutorialPicture(sim));
-    WriteSpoken(json, "lblSat", SpokenMarker());
-    WriteSpoken(json, "txtHelp", SpokenPane(sim, WindowId::Main));
+    for (const LabelRow& row : LabelTable()) // a label says what it shows, unless it is a link
+        if (kHandlers.label[Index(row.id)]) WriteSpoken(row.name, Spoken(sim, row.id));
+    WriteSpoken(kPicSelvane.name, SpokenMainPicture(sim));
+    WriteSpoken(kPicDemo.name, SpokenTutorialPicture(sim));
+    WriteSpoken("lblSat", SpokenMarker());
+    WriteSpoken("txtHelp", SpokenPane(sim, WindowId::Main));
     if (IsLoaded(sim.windows, WindowId::UserGuide)) {
-        WriteSpoken(json, "frmUserGuide.txtHelp", SpokenPane(sim, WindowId::UserGuide));
+        WriteSpoken("frmUserGuide.txtHelp", SpokenPane(sim, WindowId::UserGuide));
         for (const TopicRow& row : TopicTable())
-            WriteSpoken(json, "frmUserGuide." + std::string(row.name), Spoken(row.topic));
+            WriteSpoken("frmUserGuide." + std::string(row.name), Spoken(row.topic));
     }
     if (IsLoaded(sim.windows, WindowId::About))
         for (const AboutRow& row : AboutTable())
-            WriteSpoken(json, "frmAbout." + std::string(row.name), Spoken(sim, row.control));
-    json.Close('}');
+            WriteSpoken("frmAbout." + std::string(row.name), Spoken(sim, row.control));
+    json_.Close('}');
 }
 
 std::string ChangeWriter::Changes(const Simulation& sim, std::vector<PagePlatform::Order>& orders)
 {
-    const Controls& now = sim.controls;
-    const Controls* const sent = sent_ ? &sent_->controls : nullptr;
-    const auto before = [sent](auto member) { return sent ? &(sent->*member) : nullptr; };
-    Json json;
-    json.Open('{');
-    WriteChanged(json, "bars", now.scrollBars, before(&Controls::scrollBars), ScrollBarTable());
-    WriteChanged(json, "fields", now.fields, before(&Controls::fields), FieldTable());
-    WriteChanged(json, "buttons", now.buttons, before(&Controls::buttons), ButtonTable());
-    WriteChanged(json, "labels", now.labels, before(&Controls::labels), LabelTable());
-    WriteChanged(json, "timers", now.timers, before(&Controls::timers), TimerTable());
-    WriteChanged(json, "menus", now.menu, before(&Controls::menu), MenuTable());
-
-    const MarkerPlace marker = PlaceOf(sim);
-    if (!sent_ || sent_->marker != marker) {
-        json.Key("marker").Open('{').Field("left", marker.left).Field("top", marker.top);
-        json.Key("colour");
-        Write(json, marker.colour);
-        json.Field("visible", marker.visible).Close('}');
-    }
-    if (!sent || !SameDocument(sent->txtHelp, now.txtHelp)) {
-        json.Key("pane");
-        Write(json, now.txtHelp);
-    }
-    WriteWindows(json, sim.windows, sent_ ? &sent_->windows : nullptr);
-    if (!sent_ || sent_->ruling != sim.state.ShapeInput)
-        json.Field("ruling", RulingRow(sim.state.ShapeInput));
-    WriteSpoken(json, sim);
-    WriteOrders(json, orders);
-    orders.clear();
-    sent_ = Sent{now, sim.windows, marker, sim.state.ShapeInput};
-    return json.Close('}').Text();
+    json_ = Json();
+    json_.Open('{');
+    WriteControls(sim);
+    WriteWindows(sim.windows);
+    Send("ruling", RulingFrame(sim.state.ShapeInput));
+    json_.Key("panes").Open('{');
+    WritePane("txtHelp", sim.controls.txtHelp);
+    if (IsLoaded(sim.windows, WindowId::UserGuide))
+        WritePane("frmUserGuide.txtHelp", sim.windows.frmUserGuide.txtHelp);
+    json_.Close('}');
+    WriteSpoken(sim);
+    json_.Key("requests").Open('[');
+    for (const auto& [kind, text, title] : std::exchange(orders, {}))
+        json_.Object("kind", kind, "text", text, "title", title);
+    return json_.Close(']').Close('}').Text();
 }
 
 } // namespace selvane::web

@@ -7,7 +7,6 @@
 #include "web/page_platform.h"
 
 #include <map>
-#include <optional>
 #include <string>
 
 namespace selvane::web {
@@ -19,29 +18,20 @@ public:
     std::string Changes(const Simulation& sim, std::vector<PagePlatform::Order>& orders);
 
 private:
-    // The marker on the picture, in pixels.
-    struct MarkerPlace
-    {
-        int left = 0, top = 0;
-        std::optional<Colour> colour;
-        bool visible = false;
+    void WriteControls(const Simulation& sim);
+    void WriteWindows(const Windows& windows);
+    void WritePane(std::string_view element, const HelpPane& pane);
+    void WriteSpoken(const Simulation& sim);
+    void WriteSpoken(std::string_view element, const SpokenText& text);
 
-        bool operator==(const MarkerPlace&) const = default;
-    };
-    struct Sent
-    {
-        Controls controls;
-        Windows windows;
-        MarkerPlace marker;
-        ShapePair ruling;
-    };
+    // A member of the object that is being written, unless it was sent like this before. Members of
+    // two objects bear no name in common.
+    void Send(std::string_view name, std::string json);
+    bool IsNew(std::string_view name, std::string json);
+    void Forget(std::string_view window);
 
-    static MarkerPlace PlaceOf(const Simulation& sim);
-    void WriteSpoken(Json& json, const Simulation& sim);
-    void WriteSpoken(Json& json, std::string_view element, const SpokenText& text);
-
-    std::optional<Sent> sent_;                              // nothing before the first time
-    std::map<std::string, SpokenText, std::less<>> spoken_; // by element
+    Json json_;
+    std::map<std::string, std::string, std::less<>> sent_; // JSON by name
 };
 
 } // namespace selvane::web

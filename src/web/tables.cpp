@@ -6,7 +6,7 @@
 #include "documents/user_guide.h"
 #include "web/json.h"
 
-#include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace selvane::web {
@@ -16,22 +16,6 @@ namespace {
 int Pixels(double points)
 {
     return static_cast<int>(std::lround(points * 4 / 3));
-}
-
-void Write(Json& json, const Place& place)
-{
-    json.Key("place").Open('[').Value(place.left).Value(place.top).Value(place.width);
-    json.Value(place.height).Close(']');
-}
-
-void Write(Json& json, std::string_view key, std::optional<Colour> colour)
-{
-    json.Key(key);
-    if (!colour) {
-        json.Null();
-        return;
-    }
-    json.Open('[').Value(colour->red).Value(colour->green).Value(colour->blue).Close(']');
 }
 
 std::string_view NameOf(Glyph glyph)
@@ -51,13 +35,13 @@ std::string_view CaptionOf(ScrollBarId bar)
     return LabelTable()[Index(ScrollBarTable()[Index(bar)].caption)].name;
 }
 
-// Each row as an object: what all have, then what `write` adds.
+// Each row as an object: what all have, then what `add` writes.
 template <typename Table, typename Add>
 void WriteRows(Json& json, std::string_view key, const Table& table, Add add)
 {
     json.Key(key).Open('[');
     for (const auto& row : table) {
-        json.Open('{').Field("name", row.name);
+        json.Open('{').Members("name", row.name);
         add(row);
         json.Close('}');
     }
@@ -67,41 +51,35 @@ void WriteRows(Json& json, std::string_view key, const Table& table, Add add)
 void WriteControls(Json& json)
 {
     WriteRows(json, "bars", ScrollBarTable(), [&](const ScrollBarRow& row) {
-        Write(json, row.place);
-        json.Field("vertical", row.direction == Direction::Vertical);
-        json.Field("caption", CaptionOf(row.id));
+        json.Members("place", row.place, "vertical", row.direction == Direction::Vertical,
+                     "caption", CaptionOf(row.id));
     });
     WriteRows(json, "fields", FieldTable(), [&](const FieldRow& row) {
-        Write(json, row.place);
-        json.Field("caption", CaptionOf(row.bar));
+        json.Members("place", row.place, "caption", CaptionOf(row.bar));
     });
     WriteRows(json, "buttons", ButtonTable(), [&](const ButtonRow& row) {
-        Write(json, row.place);
-        json.Field("caption", row.caption).Field("glyph", NameOf(row.glyph));
+        json.Members("place", row.place, "caption", row.caption, "glyph", NameOf(row.glyph));
     });
     WriteRows(json, "labels", LabelTable(), [&](const LabelRow& row) {
-        Write(json, row.place);
-        json.Field("align", NameOf(row.alignment)).Field("pixels", Pixels(row.points));
-        json.Field("bold", row.weight == Weight::Bold);
-        json.Field("underline", row.underline == Underline::Yes);
-        Write(json, "colour", row.colour);
-        json.Field("filled", row.backdrop == Backdrop::Window);
-        json.Field("room", RoomOf(row.id).value_or(0));
-        json.Field("link", kHandlers.label[Index(row.id)] != nullptr);
+        json.Members("place", row.place, "align", NameOf(row.alignment), "pixels",
+                     Pixels(row.points), "bold", row.weight == Weight::Bold, "underline",
+                     row.underline == Underline::Yes, "colour", row.colour, "filled",
+                     row.backdrop == Backdrop::Window, "room", RoomOf(row.id).value_or(0), "link",
+                     kHandlers.label[Index(row.id)] != nullptr);
     });
     WriteRows(json, "menus", MenuTable(), [&](const MenuRow& row) {
-        json.Field("caption", row.caption).Field("checkable", row.checkable);
-        json.Field("under", row.under ? static_cast<int>(Index(*row.under)) : -1);
+        json.Members("caption", row.caption, "checkable", row.checkable, "under",
+                     row.under ? static_cast<int>(Index(*row.under)) : -1);
     });
+    WriteRows(json, "timers", TimerTable(),
+              [&](const TimerRow& row) { json.Members("runsHidden", row.id == tmrTime); });
 }
 
 void WriteGuide(Json& json)
 {
-    json.Key("guide").Open('{').Field("caption", kUserGuideCaption);
-    Write(json, kUserGuideClient);
+    json.Key("guide").Open('{').Members("caption", kUserGuideCaption, "place", kUserGuideClient);
     WriteRows(json, "topics", TopicTable(), [&](const TopicRow& row) {
-        Write(json, row.place);
-        json.Field("caption", row.caption);
+        json.Members("place", row.place, "caption", row.caption);
     });
     json.Close('}');
 }
@@ -117,26 +95,22 @@ std::string_view KindOf(const AboutRow& row)
 void WriteAbout(Json& json)
 {
     json.Key("about").Open('{');
-    json.Field("width", kAboutClientWidth).Field("height", kAboutClientHeight);
+    json.Members("width", kAboutClientWidth, "height", kAboutClientHeight);
     WriteRows(json, "controls", AboutTable(), [&](const AboutRow& row) {
-        Write(json, row.place);
-        const std::size_t mark = row.text.find('&');
-        std::string text(row.text);
-        if (mark != std::string::npos) {
+        std::string text(row.text), accessKey;
+        if (const std::size_t mark = text.find('&'); mark != std::string::npos) {
+            accessKey = text.substr(mark + 1, 1);
             text.erase(mark, 1);
-            json.Field("accessKey", text.substr(mark, 1));
         }
-        json.Field("text", text).Field("pixels", Pixels(row.points));
-        json.Field("bold", row.weight == Weight::Bold).Field("kind", KindOf(row));
+        json.Members("place", row.place, "text", text, "accessKey", accessKey, "pixels",
+                     Pixels(row.points), "bold", row.weight == Weight::Bold, "kind", KindOf(row));
     });
     json.Key("rules").Open('[');
     for (const RuleLine& line : AboutRules()) {
         const auto whole = [](double length) { return static_cast<int>(std::lround(length)); };
-        json.Open('{');
-        Write(json,
-              Place{whole(line.left), whole(line.y), whole(line.right - line.left), line.width});
-        Write(json, "colour", line.colour);
-        json.Close('}');
+        const Place place{whole(line.left), whole(line.y), whole(line.right - line.left),
+                          line.width};
+        json.Object("place", place, "colour", line.colour);
     }
     json.Close(']').Close('}');
 }
@@ -148,27 +122,14 @@ std::string TablesAsJson()
     Json json;
     json.Open('{');
     WriteRows(json, "pictures", std::array{kPicSelvane, kPicDemo},
-              [&](const PictureRow& row) { Write(json, row.place); });
+              [&](const PictureRow& row) { json.Members("place", row.place); });
     WriteControls(json);
-    WriteRows(json, "timers", TimerTable(),
-              [&](const TimerRow& row) { json.Field("runsHidden", row.id == tmrTime); });
-    WriteRows(json, "frames", FrameTable(), [&](const FrameRow& row) {
-        Write(json, row.place);
-        Write(json, "fill", row.fill);
-    });
-    json.Key("rulingFrames").Open('[');
-    for (const ShapePairRow& row : ShapePairTable()) {
-        json.Open('{');
-        Write(json, row.frame);
-        json.Close('}');
-    }
-    json.Close(']');
-    Write(json, "rulingColour", kRulingColour);
+    WriteRows(json, "frames", FrameTable(),
+              [&](const FrameRow& row) { json.Members("place", row.place, "fill", row.fill); });
+    json.Members("rulingColour", kRulingColour, "helpPane", kHelpPane);
     json.Key("readingOrder").Open('[');
     for (const std::string_view name : ReadingOrder()) json.Value(name);
-    json.Close(']').Key("helpPane").Open('{');
-    Write(json, kHelpPane);
-    json.Close('}');
+    json.Close(']');
     WriteGuide(json);
     WriteAbout(json);
     return json.Close('}').Text();

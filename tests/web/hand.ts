@@ -10,6 +10,7 @@ interface Spot {
 }
 
 const kDialogs = ["", "frmUserGuide", "frmAbout"]; // by the number of their window
+const idOf = (window: number, name: string) => window === 0 ? name : `${kDialogs[window]}.${name}`;
 const kShortestTrack = 40, kThumb = 26; // pixels
 
 export class Hand {
@@ -46,21 +47,21 @@ export class Hand {
   }
 
   // Where the control of an active window is, in view; a message that waits is pressed away first.
-  private async find(window: number, id: string, part = ""): Promise<Spot | null> {
-    return this.page.evaluate((owner, dialog, name, selector) => {
+  private async find(window: number, name: string, part = ""): Promise<Spot | null> {
+    return this.page.evaluate((owner, id, selector) => {
       document.querySelector<HTMLElement>("dialog.message button")?.click();
       if (globalThis.window.pageTest.call("test_active") !== owner) return null;
-      const control = document.getElementById(`${dialog}.${name}`) ?? document.getElementById(name);
+      const control = document.getElementById(id);
       const element = selector === "" ? control : control?.parentElement?.querySelector(selector);
       if (!element?.checkVisibility()) return null;
       element.scrollIntoView({ block: "nearest", inline: "nearest" });
       const { x, y, width, height } = element.getBoundingClientRect();
       return { x, y, width, height };
-    }, window, kDialogs[window], id, part);
+    }, window, idOf(window, name), part);
   }
 
-  private async press(window: number, id: string, part = ""): Promise<void> {
-    const spot = await this.find(window, id, part);
+  private async press(window: number, name: string, part = ""): Promise<void> {
+    const spot = await this.find(window, name, part);
     if (spot) await this.page.mouse.click(spot.x + spot.width / 2, spot.y + spot.height / 2);
   }
 
@@ -123,10 +124,13 @@ export class Hand {
     const spot = await this.find(0, field);
     if (!spot) return;
     await this.page.mouse.click(spot.x + spot.width / 2, spot.y + spot.height / 2);
-    await this.page.$eval(`#${field}`, (input) => (input as HTMLInputElement).select());
-    if (text === "") await this.page.keyboard.press("Delete");
-    else if (/^[ -~]{1,3}$/.test(text)) await this.page.keyboard.type(text);
-    else await this.page.keyboard.sendCharacter(text);
+    const byKeys = /^[ -~]{1,3}$/.test(text);
+    await this.page.$eval(`#${field}`, (input, inserted) => {
+      (input as HTMLInputElement).select();
+      if (inserted !== null)
+        document.execCommand(inserted === "" ? "delete" : "insertText", false, inserted);
+    }, byKeys ? null : text);
+    if (byKeys) await this.page.keyboard.type(text);
   }
 
   private async choose(item: string): Promise<void> {
@@ -148,9 +152,9 @@ export class Hand {
     });
   }
 
-  private async inDialog(window: number, verb: string, id: string): Promise<void> {
-    if (verb === "activate") return this.activate(`${kDialogs[window]}.caption`);
-    if (verb === "click") return this.press(window, id);
+  private async inDialog(window: number, verb: string, name: string): Promise<void> {
+    if (verb === "activate") return this.activate(idOf(window, "caption"));
+    if (verb === "click") return this.press(window, name);
     await (await this.page.$(`#${kDialogs[window]} .close`))?.click();
   }
 

@@ -10,8 +10,7 @@ function play(actions: readonly string[]): string {
   const { pageTest } = window;
   const dialogs = ["", "frmUserGuide", "frmAbout"];
   const reach = (window: number, name: string): HTMLElement | null => {
-    const control = document.getElementById(`${dialogs[window]}.${name}`) ??
-      document.getElementById(name);
+    const control = document.getElementById(window === 0 ? name : `${dialogs[window]}.${name}`);
     return pageTest.call("test_active") === window && control?.checkVisibility() ? control : null;
   };
   const key = (bar: string, name: string) =>

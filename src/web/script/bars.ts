@@ -2,6 +2,7 @@
 // key or the release of the thumb, never during the drag. Right and Down raise the value.
 import type { Dispatcher } from "./dispatcher";
 import { make, setPlace, setVisible } from "./elements";
+import { kMain } from "./tables";
 import type { BarRecord, BarRow } from "./tables";
 
 const kArrow = 14, kThumb = 26, kShortestTrack = 40; // pixels, as in the style
@@ -11,7 +12,7 @@ const kWheelNotch = 100; // pixels, as browsers report it
 export class Bar {
   readonly element: HTMLElement;
   readonly range: HTMLInputElement;
-  private record: BarRecord | undefined;
+  private record: BarRecord = { min: 0, max: 0, small: 1, value: 0, visible: true };
   private held: number | undefined; // where the thumb is held, from its start
   private repeat = 0;
   private wheelTurn = 0;
@@ -34,14 +35,14 @@ export class Bar {
   show(record: BarRecord): void {
     this.record = record;
     setVisible(this.element, record.visible);
-    if (this.held === undefined) this.follow(record);
+    if (this.held === undefined) this.follow();
   }
 
-  private follow(record: BarRecord): void {
-    const { range } = this;
-    if (range.min !== String(record.min)) range.min = String(record.min);
-    if (range.max !== String(record.max)) range.max = String(record.max);
-    if (range.value !== String(record.value)) range.value = String(record.value);
+  private follow(): void {
+    for (const key of ["min", "max", "value"] as const) {
+      const text = String(this.record[key]);
+      if (this.range[key] !== text) this.range[key] = text;
+    }
   }
 
   private listen(): void {
@@ -78,12 +79,12 @@ export class Bar {
   }
 
   private run(entry: "step_bar" | "page_bar", direction: number): void {
-    this.dispatcher.act("main", (program) => program.run(entry, this.index, direction));
+    this.dispatcher.act(kMain, (program) => program.run(entry, this.index, direction));
   }
 
   private scroll(value: number): void {
-    this.dispatcher.act("main", (program) => program.run("scroll", this.index, value));
-    if (this.record) this.follow(this.record); // where the program refused it
+    this.dispatcher.act(kMain, (program) => program.run("scroll", this.index, value));
+    this.follow(); // where the program refused it
   }
 
   private hasThumb(): boolean {
@@ -103,7 +104,7 @@ export class Bar {
   }
 
   private thumbStart(): number {
-    const { min, max, value } = this.record ?? { min: 0, max: 1, value: 0 };
+    const { min, max, value } = this.record;
     return max > min ? ((value - min) / (max - min)) * (this.trackLength() - kThumb) : 0;
   }
 
@@ -128,7 +129,7 @@ export class Bar {
   }
 
   private drag(event: PointerEvent): void {
-    if (this.held === undefined || !this.record) return;
+    if (this.held === undefined) return;
     const { min, max } = this.record;
     const share = (this.placeOf(event) - this.held) / (this.trackLength() - kThumb);
     const value = Math.round(min + Math.min(1, Math.max(0, share)) * (max - min));
@@ -144,7 +145,7 @@ export class Bar {
   private letGo(): void {
     window.clearTimeout(this.repeat);
     this.held = undefined;
-    if (this.record) this.follow(this.record);
+    this.follow();
   }
 
   private repeatWhileHeld(step: () => void): void {
@@ -160,7 +161,7 @@ export class Bar {
   }
 
   private key(event: KeyboardEvent): void {
-    if (event.ctrlKey || event.altKey || event.metaKey || !this.record) return;
+    if (event.ctrlKey || event.altKey || event.metaKey) return;
     const { min, max } = this.record;
     const actions: Readonly<Record<string, () => void>> = {
       ArrowRight: () => this.run("step_bar", +1),
@@ -180,7 +181,7 @@ export class Bar {
 
   // Only of the bar with the focus, so that the wheel goes on scrolling the page.
   private wheel(event: WheelEvent): void {
-    if (document.activeElement !== this.range || event.ctrlKey || !this.record) return;
+    if (document.activeElement !== this.range || event.ctrlKey) return;
     event.preventDefault();
     this.wheelTurn += Math.abs(event.deltaX) > Math.abs(event.deltaY) ? event.deltaX : event.deltaY;
     const notches = Math.trunc(this.wheelTurn / kWheelNotch);

@@ -1,7 +1,10 @@
 // Fields, labels and buttons of the main window.
 import type { Dispatcher } from "./dispatcher";
 import { cssOf, make, setAttribute, setPlace, setVisible } from "./elements";
-import type { ButtonRow, FieldRecord, FieldRow, Glyph, LabelRecord, LabelRow } from "./tables";
+import { kMain } from "./tables";
+import type {
+  ButtonRecord, ButtonRow, FieldRecord, FieldRow, Glyph, LabelRecord, LabelRow,
+} from "./tables";
 
 export class Field {
   readonly element: HTMLInputElement;
@@ -13,7 +16,7 @@ export class Field {
     });
     setPlace(this.element, row.place);
     const type = (text: string): void => {
-      dispatcher.act("main", (program) => program.type(index, text));
+      dispatcher.act(kMain, (program) => program.type(index, text));
       if (this.record) this.show(this.record); // the program may have cut it
     };
     this.element.addEventListener("input", () => type(this.element.value));
@@ -51,7 +54,7 @@ export class Label {
       this.element = make("button", { id: row.name, className: `${className} link` },
                           { type: "button", role: "link" });
       this.element.addEventListener("click", () =>
-        dispatcher.act("main", (program) => program.run("click_label", index)));
+        dispatcher.act(kMain, (program) => program.run("click_label", index)));
     } else if (field !== "")
       this.element = make("label", { id: row.name, className }, { for: field });
     else this.element = make("div", { id: row.name, className });
@@ -74,14 +77,13 @@ export class Label {
   }
 
   private applyLook(row: LabelRow): void {
-    const [left, top, width, height] = row.place;
     const { style } = this.element;
-    setPlace(this.element, [left, top, width, height]);
+    setPlace(this.element, row.place);
     if (row.align === "left") {
-      style.width = ""; // as the text needs, but no less
-      style.minWidth = `${width}px`;
+      style.minWidth = style.width;
+      style.width = ""; // as the text needs
     }
-    if (height === 0) style.height = "";
+    if (row.place[3] === 0) style.height = "";
     style.fontSize = `${row.pixels}px`;
     if (row.bold) style.fontWeight = "bold";
     if (row.underline) style.textDecoration = "underline";
@@ -123,10 +125,10 @@ export class Button {
     else if (row.caption === "") this.element.classList.add("blank");
     setPlace(this.element, row.place);
     this.element.addEventListener("click", () =>
-      dispatcher.act("main", (program) => program.run("click", index)));
+      dispatcher.act(kMain, (program) => program.run("click", index)));
   }
 
-  show(visible: boolean): void {
-    setVisible(this.element, visible);
+  show(record: ButtonRecord): void {
+    setVisible(this.element, record.visible);
   }
 }

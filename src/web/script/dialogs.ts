@@ -1,25 +1,26 @@
 // The user guide and the about box: dialogs that do not block the page, and can be moved by the
 // mouse, a finger or the arrow keys on their title.
 import type { Dispatcher } from "./dispatcher";
-import { kWindows } from "./dispatcher";
 import { cssOf, make, setPlace } from "./elements";
 import { Pane } from "./pane";
-import type { AboutRecord, AboutRow, PaneRecord, Tables, WindowName } from "./tables";
+import { kAbout, kGuide } from "./tables";
+import type { AboutRow, Tables, WindowId } from "./tables";
 
 const kKeyStep = 16; // pixels
 const kTitleHeight = 26;
 const kMargin = 8; // of a dialog on a small screen
 
-class Dialog {
+export class Dialog {
   readonly element: HTMLElement;
   readonly body = make("div", { className: "body" });
-  readonly speakers = new Map<string, HTMLElement>(); // its controls, by name
-  private readonly title = make("h2", { className: "caption", tabIndex: 0 });
+  private readonly title: HTMLElement;
   private held: { x: number; y: number } | undefined;
 
-  constructor(id: string, private readonly window: WindowName,
+  constructor(id: string, caption: string, private readonly window: WindowId,
               private readonly dispatcher: Dispatcher) {
-    this.title.id = `${id}.caption`;
+    this.title = make("h2", {
+      id: `${id}.caption`, className: "caption", textContent: caption, tabIndex: 0,
+    });
     this.element = make("div", { id, className: "dialog" },
                         { role: "dialog", "aria-labelledby": this.title.id });
     const close = make("button", { className: "close" }, { type: "button", "aria-label": "Close" });
@@ -34,11 +35,7 @@ class Dialog {
     this.letBeMoved();
   }
 
-  setCaption(caption: string): void {
-    if (this.title.textContent !== caption) this.title.textContent = caption;
-  }
-
-  // Places it as far as the screen has room.
+  // Places it as far as the screen has room, with the focus on its first control.
   open(left: number, top: number, width: number, height: number): void {
     const screen = document.documentElement;
     const wide = Math.min(width, screen.clientWidth - 2 * kMargin);
@@ -47,9 +44,10 @@ class Dialog {
     this.element.style.height = `${high}px`;
     document.body.append(this.element);
     this.moveTo(left, top);
+    this.focusFirst();
   }
 
-  moveTo(left: number, top: number): void {
+  private moveTo(left: number, top: number): void {
     const { clientWidth, clientHeight } = document.documentElement;
     const right = clientWidth - this.element.offsetWidth - kMargin;
     const bottom = clientHeight - this.element.offsetHeight - kMargin;
@@ -61,12 +59,15 @@ class Dialog {
   bringUp(): void {
     if (this.element.contains(document.activeElement)) return;
     document.body.append(this.element);
-    this.body.querySelector<HTMLElement>("button")?.focus();
+    this.focusFirst();
   }
 
-  close(): void {
-    this.dispatcher.report((program) =>
-      program.run("close_window", kWindows.indexOf(this.window)));
+  private focusFirst(): void {
+    this.body.querySelector("button")?.focus();
+  }
+
+  private close(): void {
+    this.dispatcher.run((program) => program.run("close_window", this.window));
   }
 
   private letBeMoved(): void {
@@ -91,93 +92,59 @@ class Dialog {
   }
 }
 
-export class UserGuide {
-  readonly dialog: Dialog;
-  private readonly pane: Pane;
+export function openGuide(table: Tables["guide"], pane: Pane, dispatcher: Dispatcher): Dialog {
+  const dialog = new Dialog("frmUserGuide", table.caption, kGuide, dispatcher);
+  dialog.element.classList.add("sizable");
+  table.topics.forEach((row, index) => {
+    const link = make("button", {
+      id: `frmUserGuide.${row.name}`, className: "label left link topic", textContent: row.caption,
+    }, { type: "button", role: "link" });
+    setPlace(link, row.place);
+    link.addEventListener("click", () =>
+      dispatcher.act(kGuide, (program) => program.run("click_topic", index)));
+    dialog.body.append(link);
+  });
+  dialog.body.append(pane.element);
+  dialog.open(...table.place);
+  return dialog;
+}
 
-  // A name that the main window has already stands behind this window's own.
-  constructor(table: Tables["guide"], dispatcher: Dispatcher) {
-    const idOf = (name: string): string =>
-      document.getElementById(name) ? `frmUserGuide.${name}` : name;
-    this.dialog = new Dialog("frmUserGuide", "guide", dispatcher);
-    this.dialog.setCaption(table.caption);
-    this.pane = new Pane(idOf("txtHelp"), "guide", dispatcher);
-    this.dialog.speakers.set("txtHelp", this.pane.element);
-    table.topics.forEach((row, index) => {
-      const link = make("button", {
-        id: idOf(row.name), className: "label left link topic", textContent: row.caption,
-      }, { type: "button", role: "link" });
-      this.dialog.speakers.set(row.name, link);
-      setPlace(link, row.place);
-      link.addEventListener("click", () =>
-        dispatcher.act("guide", (program) => program.run("click_topic", index)));
-      this.dialog.body.append(link);
-    });
-    this.dialog.element.classList.add("sizable");
-    this.dialog.body.append(this.pane.element);
-    this.dialog.open(...table.place);
-    (this.dialog.body.firstElementChild as HTMLElement).focus();
-  }
-
-  show(record: PaneRecord): void {
-    this.pane.show(record);
+function makeAboutControl(row: AboutRow, icon: string): HTMLElement {
+  const id = `frmAbout.${row.name}`, textContent = row.text;
+  switch (row.kind) {
+    case "icon": return make("img", { id }, { src: icon, alt: "" });
+    case "label": return make("div", { id, className: "text", textContent });
+    case "link": return make("button", { id, className: "label left link", textContent },
+                             { type: "button", role: "link" });
+    case "button": return make("button", { id, className: "push", textContent },
+                               { type: "button", accesskey: row.accessKey });
   }
 }
 
-export class AboutBox {
-  readonly dialog: Dialog;
-
-  constructor(table: Tables["about"], icon: string, dispatcher: Dispatcher) {
-    this.dialog = new Dialog("frmAbout", "about", dispatcher);
-    const isButton = (row: AboutRow): boolean => row.kind === "button";
-    for (const buttons of [true, false]) // first in the tab order
-      table.controls.forEach((row, index) => {
-        if (isButton(row) === buttons) this.add(row, index, icon, dispatcher);
-      });
-    for (const { place, colour } of table.rules) {
-      const rule = make("div", { className: "rule" });
-      setPlace(rule, place);
-      rule.style.background = cssOf(colour);
-      this.dialog.body.append(rule);
-    }
-    const { clientWidth, clientHeight } = document.documentElement;
-    this.dialog.open((clientWidth - table.width) / 2, (clientHeight - table.height) / 3,
-                     table.width, table.height);
-    this.dialog.body.querySelector("button")?.focus();
-  }
-
-  show(record: AboutRecord): void {
-    this.dialog.setCaption(record.caption);
-    for (const [name, text] of Object.entries(record.texts)) {
-      const label = this.dialog.speakers.get(name);
-      if (label && label.textContent !== text) label.textContent = text;
-    }
-  }
-
-  private add(row: AboutRow, index: number, icon: string, dispatcher: Dispatcher): void {
-    const element = AboutBox.make(row, icon);
+export function openAbout(table: Tables["about"], icon: string, dispatcher: Dispatcher): Dialog {
+  const dialog = new Dialog("frmAbout", "", kAbout, dispatcher);
+  const { body } = dialog;
+  table.controls.forEach((row, index) => {
+    const element = makeAboutControl(row, icon);
     setPlace(element, row.place);
     if (row.pixels > 0) element.style.fontSize = `${row.pixels}px`;
     if (row.bold) element.style.fontWeight = "bold";
-    if (row.kind === "button" || row.kind === "link")
+    if (element instanceof HTMLButtonElement)
       element.addEventListener("click", () =>
-        dispatcher.act("about", (program) => program.run("click_about", index)));
-    this.dialog.body.append(element);
-    this.dialog.speakers.set(row.name, element);
+        dispatcher.act(kAbout, (program) => program.run("click_about", index)));
+    body.append(element);
+  });
+  body.prepend(...body.querySelectorAll(".push")); // first in the tab order
+  for (const { place, colour } of table.rules) {
+    const rule = make("div");
+    setPlace(rule, place);
+    rule.style.background = cssOf(colour);
+    body.append(rule);
   }
-
-  private static make(row: AboutRow, icon: string): HTMLElement {
-    const id = row.name;
-    switch (row.kind) {
-      case "icon": return make("img", { id }, { src: icon, alt: "" });
-      case "label": return make("div", { id, className: "text", textContent: row.text });
-      case "link": return make("button", {
-        id, className: "label left link", textContent: row.text,
-      }, { type: "button", role: "link" });
-      case "button": return make("button", { id, className: "push", textContent: row.text },
-                                 { type: "button", accesskey: row.accessKey ?? "" });
-    }
-  }
+  const { clientWidth, clientHeight } = document.documentElement;
+  dialog.open((clientWidth - table.width) / 2, (clientHeight - table.height) / 3,
+              table.width, table.height);
+  return dialog;
 }
 
 // A message that waits for its OK; the flight goes on behind it.

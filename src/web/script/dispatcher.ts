@@ -2,15 +2,14 @@
 // in; one that arrives meanwhile waits. When all are done the page is made to show the records,
 // once. The first fault ends everything.
 import type { Program } from "./program";
-import type { Changes, WindowName } from "./tables";
-
-export const kWindows: readonly WindowName[] = ["main", "guide", "about"];
+import { kMain } from "./tables";
+import type { Changes, WindowId } from "./tables";
 
 type Event = (program: Program) => void;
 
 export class Dispatcher {
   private readonly waiting: Event[] = [];
-  private active: WindowName = "main";
+  private active: WindowId = kMain;
   private busy = false;
   private ended = false;
 
@@ -20,28 +19,20 @@ export class Dispatcher {
     private readonly fail: (fault: unknown) => void,
   ) {}
 
+  get activeWindow(): WindowId {
+    return this.active;
+  }
+
   // An action of the user in one of the windows, which becomes the active one first.
-  act(window: WindowName, event: Event): void {
-    this.enter((program) => {
-      if (this.active !== window) program.run("activate", kWindows.indexOf(window));
+  act(window: WindowId, event: Event): void {
+    this.run((program) => {
+      if (this.active !== window) program.run("activate", window);
       event(program);
     });
   }
 
-  tick(timer: number): void {
-    this.enter((program) => program.run("tick", timer));
-  }
-
   // What is no action in a window.
-  report(event: Event): void {
-    this.enter(event);
-  }
-
-  isActive(window: WindowName): boolean {
-    return this.active === window;
-  }
-
-  private enter(event: Event): void {
+  run(event: Event): void {
     this.waiting.push(event);
     if (this.busy || this.ended) return;
     this.busy = true;
@@ -58,7 +49,7 @@ export class Dispatcher {
   private runWaiting(): void {
     for (let event = this.waiting.shift(); event; event = this.waiting.shift()) event(this.program);
     const changes = this.program.changes();
-    if (changes.active) this.active = changes.active;
+    this.active = changes.windows?.[changes.windows.length - 1] ?? this.active;
     this.show(changes);
   }
 }

@@ -3,7 +3,8 @@
 // that begins with it, Escape closes.
 import type { Dispatcher } from "./dispatcher";
 import { make, setAttribute } from "./elements";
-import type { ByName, MenuRow } from "./tables";
+import { kMain } from "./tables";
+import type { ByName, Control, MenuRecord, MenuRow } from "./tables";
 
 interface Title {
   readonly element: HTMLElement;
@@ -11,10 +12,15 @@ interface Title {
   readonly items: HTMLElement[];
 }
 
+// Beyond an end of the list it goes on at the other.
+function around<Element>(list: readonly Element[], at: number): Element | undefined {
+  return list[(at + list.length) % list.length];
+}
+
 export class MenuBar {
   readonly element = make("div", { id: "menuBar" }, { role: "menubar", "aria-label": "Menus" });
   private readonly titles: Title[] = [];
-  private readonly items = new Map<string, HTMLElement>();
+  readonly checks = new Map<string, Control>(); // by the item's name
   private opened: Title | undefined;
   private returnTo: HTMLElement | undefined; // what had the focus before the bar
 
@@ -41,15 +47,7 @@ export class MenuBar {
       const to = event.relatedTarget as Node | null;
       if (to && !this.element.contains(to)) this.close();
     });
-    this.rove(0);
-  }
-
-  show(checks: ByName<boolean>): void {
-    for (const [name, checked] of Object.entries(checks)) {
-      const item = this.items.get(name);
-      if (item?.getAttribute("role") === "menuitemcheckbox")
-        setAttribute(item, "aria-checked", String(checked));
-    }
+    this.rove(this.titles[0]);
   }
 
   // As F10 does: the bar has the focus, and no menu is open.
@@ -94,20 +92,22 @@ export class MenuBar {
     element.addEventListener("pointerenter", () => element.focus());
     title.items.push(element);
     title.list.append(element);
-    this.items.set(row.name, element);
+    if (row.checkable) this.checks.set(row.name, { show: ({ checked }: MenuRecord) =>
+      setAttribute(element, "aria-checked", String(checked)) });
   }
 
   private choose(index: number): void {
     this.leave();
-    this.dispatcher.act("main", (program) => program.run("choose", index));
+    this.dispatcher.act(kMain, (program) => program.run("choose", index));
   }
 
   // One title is reached by Tab.
-  private rove(to: number): void {
-    this.titles.forEach((title, at) => (title.element.tabIndex = at === to ? 0 : -1));
+  private rove(to: Title | undefined): void {
+    for (const title of this.titles) title.element.tabIndex = title === to ? 0 : -1;
   }
 
-  private open(title: Title, at: "title" | "first" | "last" = "title"): void {
+  // The focus goes to the item, counted from the end where negative; without one, to the title.
+  private open(title: Title, item?: number): void {
     this.close();
     const before = document.activeElement as HTMLElement;
     if (!this.element.contains(before)) this.returnTo = before;
@@ -116,9 +116,8 @@ export class MenuBar {
       title.list.hidden = false;
       setAttribute(title.element, "aria-expanded", "true");
     }
-    this.rove(this.titles.indexOf(title));
-    const inside = at === "first" ? title.items[0] : title.items[title.items.length - 1];
-    ((at === "title" ? undefined : inside) ?? title.element).focus();
+    this.rove(title);
+    ((item === undefined ? undefined : around(title.items, item)) ?? title.element).focus();
   }
 
   private close(): void {
@@ -148,23 +147,22 @@ export class MenuBar {
   }
 
   private keyInBar(key: string, title: Title, at: number): boolean {
-    const last = this.titles.length - 1;
     return this.act(key, {
       ArrowRight: () => this.walk(at + 1), ArrowLeft: () => this.walk(at - 1),
-      Home: () => this.walk(0), End: () => this.walk(last),
-      Enter: () => this.open(title, "first"), " ": () => this.open(title, "first"),
-      ArrowDown: () => this.open(title, "first"), ArrowUp: () => this.open(title, "last"),
+      Home: () => this.walk(0), End: () => this.walk(-1),
+      Enter: () => this.open(title, 0), " ": () => this.open(title, 0),
+      ArrowDown: () => this.open(title, 0), ArrowUp: () => this.open(title, -1),
       Escape: () => this.leave(),
     }) || this.goToLetter(key, this.titles.map((each) => each.element), at);
   }
 
   private keyInMenu(key: string, title: Title, at: number, item: number): boolean {
     const { items } = title;
-    const focus = (to: number): void => items[(to + items.length) % items.length]?.focus();
     return this.act(key, {
-      ArrowDown: () => focus(item + 1), ArrowUp: () => focus(item - 1),
-      Home: () => focus(0), End: () => focus(items.length - 1),
-      ArrowRight: () => this.walkOpen(at + 1), ArrowLeft: () => this.walkOpen(at - 1),
+      ArrowDown: () => around(items, item + 1)?.focus(),
+      ArrowUp: () => around(items, item - 1)?.focus(),
+      Home: () => items[0]?.focus(), End: () => around(items, -1)?.focus(),
+      ArrowRight: () => this.walk(at + 1, 0), ArrowLeft: () => this.walk(at - 1, 0),
       Enter: () => items[item]?.click(), " ": () => items[item]?.click(),
       Escape: () => (this.close(), title.element.focus()),
     }) || this.goToLetter(key, items, item);
@@ -175,18 +173,13 @@ export class MenuBar {
     return actions[key] !== undefined;
   }
 
-  private walk(to: number): void {
-    const at = (to + this.titles.length) % this.titles.length;
-    const title = this.titles[at];
+  // To another title, where an open menu goes on.
+  private walk(to: number, item?: number): void {
+    const title = around(this.titles, to);
     if (!title) return;
-    if (this.opened) this.open(title);
-    this.rove(at);
-    title.element.focus();
-  }
-
-  private walkOpen(to: number): void {
-    const title = this.titles[(to + this.titles.length) % this.titles.length];
-    if (title) this.open(title, "first");
+    if (this.opened) this.open(title, item);
+    else this.rove(title);
+    if (item === undefined) title.element.focus();
   }
 
   private goToLetter(key: string, among: readonly HTMLElement[], from: number): boolean {

@@ -1,6 +1,6 @@
 // A picture: the program's pixels on a canvas, one for each pixel of the screen, and in words for
 // those who cannot see it.
-import { cssOf, make, setVisible } from "./elements";
+import { cssOf, make, setPlace, setVisible } from "./elements";
 import type { Program } from "./program";
 import type { MarkerRecord, PictureRow } from "./tables";
 
@@ -15,13 +15,7 @@ export class Picture {
     if (!context) throw new Error("no canvas");
     this.context = context;
     this.element = make("div", { className: "picture" });
-    const [left, top, width, height] = row.place;
-    for (const { style } of [this.element, this.canvas]) {
-      style.width = `${width}px`;
-      style.height = `${height}px`;
-    }
-    this.element.style.left = `${left}px`;
-    this.element.style.top = `${top}px`;
+    setPlace(this.element, row.place);
     this.element.append(this.canvas);
   }
 
@@ -42,15 +36,11 @@ export class Picture {
 export class Marker {
   readonly element = make("div", { id: "lblSat" }, { role: "img" });
 
-  constructor() {
-    this.element.hidden = true;
-  }
-
-  show(record: MarkerRecord): void {
+  show({ left = 0, top = 0, colour, visible }: MarkerRecord): void {
     const { style } = this.element;
-    style.transform = `translate(${record.left}px, ${record.top}px)`;
-    if (record.colour) style.background = cssOf(record.colour);
-    setVisible(this.element, record.visible);
+    style.transform = `translate(${left}px, ${top}px)`;
+    if (colour) style.background = cssOf(colour);
+    setVisible(this.element, visible);
   }
 }
 

@@ -21,7 +21,7 @@ export type MenuRow = Readonly<{
   under: number; // -1: stands in the bar
 }>;
 export type AboutRow = Row<{
-  text: string; accessKey?: string; pixels: number; bold: boolean;
+  text: string; accessKey: string; pixels: number; bold: boolean;
   kind: "icon" | "label" | "link" | "button";
 }>;
 
@@ -34,10 +34,9 @@ export type Tables = Readonly<{
   timers: readonly TimerRow[];
   menus: readonly MenuRow[];
   frames: readonly Row<{ fill: Colour | null }>[];
-  rulingFrames: readonly { place: Place }[];
   rulingColour: Colour;
   readingOrder: readonly string[];
-  helpPane: { place: Place };
+  helpPane: Place;
   guide: { caption: string; place: Place; topics: readonly Row<{ caption: string }>[] };
   about: {
     width: number; height: number; controls: readonly AboutRow[];
@@ -46,40 +45,38 @@ export type Tables = Readonly<{
 }>;
 
 export type BarRecord = Readonly<{
-  min: number; max: number; small: number; large: number; value: number; visible: boolean;
+  min: number; max: number; small: number; value: number; visible: boolean;
 }>;
 export type FieldRecord = Readonly<{ text: string; fault: string; visible: boolean }>;
+export type ButtonRecord = Readonly<{ visible: boolean }>;
 export type LabelRecord = Readonly<{ caption: string; toolTip: string; visible: boolean }>;
 export type TimerRecord = Readonly<{ enabled: boolean; interval: number }>; // ms
-export type MarkerRecord = Readonly<{ // pixels of the picture
-  left: number; top: number; colour: Colour | null; visible: boolean;
+export type MenuRecord = Readonly<{ checked: boolean }>;
+export type MarkerRecord = Readonly<{ // pixels of the picture; no place before the first one
+  left?: number; top?: number; colour?: Colour | null; visible: boolean;
 }>;
-export type PaneRecord = Readonly<{ html: string }>;
-// The texts of the labels that are set when the box is loaded.
-export type AboutRecord = Readonly<{ caption: string; texts: Readonly<Record<string, string>> }>;
 export type Spoken = readonly [name: string, description: string];
-export type WindowName = "main" | "guide" | "about";
-export type Request = Readonly<{ kind: "link"; target: string }> |
-  Readonly<{ kind: "message"; text: string; title: string }>;
+export type Request = Readonly<{ kind: "link" | "message"; text: string; title: string }>;
 export type ByName<Value> = Readonly<Record<string, Value>>;
+
+// The program's number for a window.
+export const kMain = 0, kGuide = 1, kAbout = 2;
+export type WindowId = typeof kMain | typeof kGuide | typeof kAbout;
+
+// What shows a record; each kind of control takes its own kind of record.
+export interface Control {
+  show(record: never): void;
+}
 
 // What differs from what was sent before; a control that stands as it was is not there.
 export type Changes = Readonly<{
-  bars: ByName<BarRecord>;
-  fields: ByName<FieldRecord>;
-  buttons: ByName<boolean>; // visible
-  labels: ByName<LabelRecord>;
-  timers: ByName<TimerRecord>;
-  menus: ByName<boolean>; // checked
-  ruling?: number; // row of the pair that rules the orbit's shape, or minus one
-  marker?: MarkerRecord;
-  pane?: PaneRecord;
-  guide?: PaneRecord | null; // null: not open
-  about?: AboutRecord | null;
-  active?: WindowName;
+  controls: ByName<never>; // records by name
+  windows?: readonly WindowId[]; // those that are open, the active one last
   raised?: number; // changes when the active window asks for the front
   running?: boolean;
-  // For a screen reader; controls of the other windows stand behind their window's name.
-  spoken: ByName<Spoken>;
+  frmAbout?: ByName<string>; // its texts
+  ruling?: Place | null; // of the frame round the pair that rules the orbit's shape
+  panes: ByName<string>; // HTML by the pane's element
+  spoken: ByName<Spoken>; // for a screen reader, by element
   requests: readonly Request[];
 }>;

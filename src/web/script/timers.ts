@@ -1,71 +1,51 @@
-// The timers of the program as timers of the page. A tick comes no sooner after the one before than
-// the record says, and what a hidden page or a sleeping machine has missed is not caught up.
+// A timer of the program as a timer of the page. A tick comes no sooner after the one before than the
+// record says, and what a hidden page or a sleeping machine has missed is not caught up.
 import type { Dispatcher } from "./dispatcher";
-import type { ByName, TimerRecord, TimerRow } from "./tables";
+import type { TimerRecord, TimerRow } from "./tables";
 
-interface Running {
-  readonly interval: number; // ms
-  due: number; // by performance.now()
-  handle: number;
-}
-
-export class Timers {
-  private readonly records = new Map<string, TimerRecord>();
-  private readonly running = new Map<string, Running>();
+export class Timer {
+  private record: TimerRecord = { enabled: false, interval: 0 };
+  private running: number | undefined; // the interval, ms
+  private due = 0; // by performance.now()
+  private handle = 0;
 
   // A timer that runs hidden goes on while nobody sees the page.
   constructor(
-    private readonly rows: readonly TimerRow[],
+    private readonly row: TimerRow,
+    private readonly index: number,
     private readonly dispatcher: Dispatcher,
   ) {
-    document.addEventListener("visibilitychange", () => this.match());
+    document.addEventListener("visibilitychange", () => this.show(this.record));
   }
 
-  show(records: ByName<TimerRecord>): void {
-    for (const [name, record] of Object.entries(records)) this.records.set(name, record);
-    this.match();
+  show(record: TimerRecord): void {
+    this.record = record;
+    const mayRun = record.enabled && (!document.hidden || this.row.runsHidden);
+    const interval = mayRun ? record.interval : undefined;
+    if (this.running === interval) return;
+    window.clearTimeout(this.handle);
+    this.running = interval;
+    if (interval === undefined) return;
+    this.due = performance.now() + interval;
+    this.wait();
   }
 
-  stopAll(): void {
-    this.records.clear();
-    for (const name of [...this.running.keys()]) this.stop(name);
+  stop(): void {
+    this.show({ enabled: false, interval: 0 });
   }
 
-  private match(): void {
-    for (const [name, record] of this.records) {
-      const mayRun = record.enabled && (!document.hidden || this.rows.some((row) => row.name === name && row.runsHidden));
-      const running = this.running.get(name);
-      if (mayRun && running?.interval === record.interval) continue;
-      this.stop(name);
-      if (mayRun) this.start(name, record.interval);
+  private wait(): void {
+    const wait = Math.max(0, this.due - performance.now());
+    this.handle = window.setTimeout(() => this.fire(), wait, this.row.name); // by which tests know it
+  }
+
+  // The tick may stop the timer or give it another interval, which starts it afresh.
+  private fire(): void {
+    const now = performance.now(), armed = this.handle;
+    if (now >= this.due) {
+      this.due = now + (this.running ?? 0);
+      this.dispatcher.run((program) => program.run("tick", this.index));
     }
-  }
-
-  private start(name: string, interval: number): void {
-    const running = { interval, due: performance.now() + interval, handle: 0 };
-    this.running.set(name, running);
-    this.arm(name, running);
-  }
-
-  private stop(name: string): void {
-    const running = this.running.get(name);
-    if (running) window.clearTimeout(running.handle);
-    this.running.delete(name);
-  }
-
-  private arm(name: string, running: Running): void {
-    const wait = Math.max(0, running.due - performance.now());
-    const fire = (timer: string): void => this.fire(timer, running);
-    running.handle = window.setTimeout(fire, wait, name);
-  }
-
-  private fire(name: string, running: Running): void {
-    const now = performance.now();
-    if (now >= running.due) {
-      running.due = now + running.interval;
-      this.dispatcher.tick(this.rows.findIndex((row) => row.name === name));
-    }
-    // The tick may have stopped the timer or given it another interval.
-    if (this.running.get(name) === running) this.arm(name, running);
+    if (this.handle === armed && this.running !== undefined) this.wait();
   }
 }
