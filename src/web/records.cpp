@@ -101,16 +101,16 @@ std::string RulingFrame(ShapePair pair)
 
 } // namespace
 
-bool ChangeWriter::IsNew(std::string_view name, std::string json)
+bool ChangeWriter::IsNew(std::string_view name, const std::string& json)
 {
     auto found = sent_.find(name);
     if (found == sent_.end()) found = sent_.emplace(name, "").first;
     if (found->second == json) return false;
-    found->second = std::move(json);
+    found->second = json;
     return true;
 }
 
-void ChangeWriter::Send(std::string_view name, std::string json)
+void ChangeWriter::Send(std::string_view name, const std::string& json)
 {
     if (IsNew(name, json)) json_.Key(name).Raw(json);
 }

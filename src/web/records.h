@@ -26,8 +26,8 @@ private:
 
     // A member of the object that is being written, unless it was sent like this before. Members of
     // two objects bear no name in common.
-    void Send(std::string_view name, std::string json);
-    bool IsNew(std::string_view name, std::string json);
+    void Send(std::string_view name, const std::string& json);
+    bool IsNew(std::string_view name, const std::string& json);
     void Forget(std::string_view window);
 
     Json json_;
