@@ -114,6 +114,9 @@ export class MenuBar {
     if (title.items.length > 0) {
       this.opened = title;
       title.list.hidden = false;
+      title.list.style.left = "0"; // or further left, where the screen ends before the menu
+      const beyond = title.list.getBoundingClientRect().right - document.documentElement.clientWidth;
+      if (beyond > 0) title.list.style.left = `${-beyond}px`;
       setAttribute(title.element, "aria-expanded", "true");
     }
     this.rove(title);
