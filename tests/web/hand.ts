@@ -7,11 +7,20 @@ interface Spot {
   readonly y: number;
   readonly width: number;
   readonly height: number;
+  readonly min: number; // of a bar
+  readonly max: number;
+  readonly value: number;
 }
 
 const kDialogs = ["", "frmUserGuide", "frmAbout"]; // by the number of their window
 const idOf = (window: number, name: string) => window === 0 ? name : `${kDialogs[window]}.${name}`;
 const kShortestTrack = 40, kThumb = 26; // pixels
+
+const lengthOf = ({ width, height }: Spot) => Math.max(width, height);
+const thumbStart = (track: Spot) =>
+  ((track.value - track.min) / (track.max - track.min || 1)) * (lengthOf(track) - kThumb);
+const along = ({ x, y, width, height }: Spot, place: number) =>
+  width > height ? { x: x + place, y: y + height / 2 } : { x: x + width / 2, y: y + place };
 
 export class Hand {
   constructor(private readonly page: Page) {}
@@ -56,7 +65,8 @@ export class Hand {
       if (!element?.checkVisibility()) return null;
       element.scrollIntoView({ block: "nearest", inline: "nearest" });
       const { x, y, width, height } = element.getBoundingClientRect();
-      return { x, y, width, height };
+      const { min, max, value } = element as HTMLInputElement;
+      return { x, y, width, height, min: Number(min), max: Number(max), value: Number(value) };
     }, window, idOf(window, name), part);
   }
 
@@ -68,52 +78,35 @@ export class Hand {
   private async scroll(bar: string, value: number): Promise<void> {
     const track = await this.find(0, bar);
     if (!track) return;
-    const [min = 0, max = 0] = await this.page.$eval(`#${bar}`, (range) =>
-      [Number((range as HTMLInputElement).min), Number((range as HTMLInputElement).max)]);
-    if (value > min && value < max) {
+    if (value > track.min && value < track.max) {
       // A pixel of the track stands for many values: a mouse reaches few of them.
       await this.page.$eval(`#${bar}`, (range, to) => {
         (range as HTMLInputElement).value = String(to);
         range.dispatchEvent(new Event("change"));
       }, value);
-    } else if (Math.max(track.width, track.height) < kShortestTrack) {
+    } else if (lengthOf(track) < kShortestTrack) {
       await this.page.focus(`#${bar}`);
-      await this.page.keyboard.press(value >= max ? "End" : "Home");
-    } else await this.drag(bar, track, value >= max);
+      await this.page.keyboard.press(value >= track.max ? "End" : "Home");
+    } else await this.drag(track, value >= track.max);
   }
 
   // Takes the thumb beyond an end of the track and lets it go there.
-  private async drag(bar: string, track: Spot, toEnd: boolean): Promise<void> {
-    const start = await this.thumbStart(bar, track);
-    const far = 2 * Math.max(track.width, track.height);
-    const from = this.along(track, start + kThumb / 2), to = this.along(track, toEnd ? far : -far);
+  private async drag(track: Spot, toEnd: boolean): Promise<void> {
+    const far = 2 * lengthOf(track);
+    const from = along(track, thumbStart(track) + kThumb / 2), to = along(track, toEnd ? far : -far);
     await this.page.mouse.move(from.x, from.y);
     await this.page.mouse.down();
     await this.page.mouse.move(Math.max(0, to.x), Math.max(0, to.y));
     await this.page.mouse.up();
   }
 
-  private along(track: Spot, place: number): { x: number; y: number } {
-    const { x, y, width, height } = track;
-    return width > height ? { x: x + place, y: y + height / 2 } : { x: x + width / 2, y: y + place };
-  }
-
-  private async thumbStart(bar: string, track: Spot): Promise<number> {
-    const share = await this.page.$eval(`#${bar}`, (element) => {
-      const { min, max, value } = element as HTMLInputElement;
-      return (Number(value) - Number(min)) / (Number(max) - Number(min) || 1);
-    });
-    return share * (Math.max(track.width, track.height) - kThumb);
-  }
-
   private async pageBeside(bar: string, forward: boolean): Promise<void> {
     const track = await this.find(0, bar);
     if (!track) return;
-    const length = Math.max(track.width, track.height), kBeside = 3;
-    const start = length < kShortestTrack ? 0 : await this.thumbStart(bar, track);
+    const length = lengthOf(track), start = thumbStart(track), kBeside = 3;
     if (length >= kShortestTrack &&
         (forward ? start + kThumb + kBeside < length : start > kBeside)) {
-      const { x, y } = this.along(track, forward ? length - 1 : 1);
+      const { x, y } = along(track, forward ? length - 1 : 1);
       return this.page.mouse.click(x, y);
     }
     await this.page.focus(`#${bar}`); // nothing left beside the thumb

@@ -16,35 +16,30 @@ const dumped = (page: Page, key: string) =>
   page.evaluate((name) => window.pageTest.dump()[name], key);
 const tick = (page: Page, timer: string) =>
   page.evaluate((name) => window.pageTest.tick(name), timer);
+const boxOf = async (page: Page, selector: string) =>
+  (await (await page.waitForSelector(selector))!.boundingBox())!;
 
 onPage("the page is one file of at most 600 KB that asks for nothing", async (page, _, faults) => {
   assert.ok(statSync(kPage).size <= 600_000, `${statSync(kPage).size} bytes`);
-  const asked: string[] = [];
-  page.on("request", (request) => asked.push(request.url()));
-  await page.click("#mnHelp");
-  await page.click("#mnUserGuide");
-  assert.deepEqual(asked.filter((url) => !url.startsWith("data:")), []);
-  const blocked = await page.evaluate(async () => {
-    const script = document.createElement("script");
-    script.textContent = "window.intruded = true";
-    document.body.append(script);
-    const fetched = await fetch("https://selvane.example.org").then(() => "yes", () => "no");
-    return [fetched, "intruded" in window];
-  });
-  assert.deepEqual(blocked, ["no", false]);
-  for (const fault of faults.splice(0)) assert.match(fault, /Content Security Policy/);
-}, kPage);
-
-onPage("it runs from a web server too", async (page) => {
-  const server = createServer((_, answer) => {
-    answer.setHeader("content-type", "text/html");
-    answer.end(readFileSync(kPage));
+  const asked: (string | undefined)[] = [];
+  const server = createServer(({ url }, answer) => {
+    asked.push(url);
+    answer.setHeader("content-type", "text/html").end(readFileSync(kPage));
   }).listen(0, "127.0.0.1");
   await once(server, "listening");
   await page.goto(`http://127.0.0.1:${(server.address() as AddressInfo).port}/`);
   await page.waitForFunction(() =>
     document.getElementById("lblOutput(10)")?.textContent?.includes("="));
+  const blocked = await page.evaluate(async () => {
+    const script = document.createElement("script");
+    script.textContent = "window.intruded = true";
+    document.body.append(script);
+    return [await fetch("/").then(() => "yes", () => "no"), "intruded" in window];
+  });
+  assert.deepEqual(blocked, ["no", false]);
+  for (const fault of faults.splice(0)) assert.match(fault, /Content Security Policy/);
   server.close();
+  assert.deepEqual(asked, ["/"]);
 }, kPage);
 
 onPage("Tab walks in the reading order; arrows, page keys and Home move a bar", async (page) => {
@@ -122,19 +117,14 @@ onPage("dialogs open by keys, take the focus, move, and Escape closes them", asy
 });
 
 onPage("a link leads from one document to another in its own pane", async (page) => {
-  const link = await page.$("#txtHelp a[data-link]");
-  if (link) {
-    await link.click();
-    assert.notEqual(await dumped(page, "txtHelp.document"), "Help(20).rtf");
-  }
-  const markup = await page.$eval("#txtHelp", (pane) => pane.querySelectorAll("script, iframe").length);
-  assert.equal(markup, 0);
-  assert.ok((await page.$eval("#txtHelp", (pane) => pane.textContent ?? "")).length > 500);
+  await page.click("#txtHelp a[data-link]");
+  assert.equal(await dumped(page, "txtHelp.document"), "Introduction.rtf");
+  assert.match(await page.$eval("#txtHelp", (pane) => pane.textContent ?? ""), /^Welcome to Selvane/);
 });
 
 onPage("a tick moves no held thumb, and the handler waits for the release", async (page, hand) => {
   await hand.do("menu mnES2"); // its ticks write no bar, the reset at its end does
-  const box = (await (await page.$("#sclPeri"))!.boundingBox())!;
+  const box = await boxOf(page, "#sclPeri");
   await page.mouse.move(box.x + 14, box.y + 8);
   await page.mouse.down();
   await page.mouse.move(box.x + 24, box.y + 8, { steps: 3 });
@@ -148,7 +138,7 @@ onPage("a tick moves no held thumb, and the handler waits for the release", asyn
 });
 
 onPage("arrows go on while they are held, and stop with the release", async (page) => {
-  const box = (await (await page.$("#sclIncl + .more"))!.boundingBox())!;
+  const box = await boxOf(page, "#sclIncl + .more");
   await page.mouse.move(box.x + 5, box.y + 5);
   await page.mouse.down();
   await page.waitForFunction(() =>
@@ -199,20 +189,6 @@ onPage("a timer waits as long as its record says, and not at all while nobody lo
   assert.equal(await waits("tmrSat"), -1);
 });
 
-onPage("ticks come no faster than every 50 ms", async (page) => {
-  await page.click("#mnMovies");
-  await page.click("#mnES2");
-  const ticks = await page.evaluate(async () => {
-    let count = 0;
-    new MutationObserver(() => ++count).observe(document.getElementById("lblOutput(10)")!,
-                                                { characterData: true, childList: true, subtree: true });
-    const begin = performance.now();
-    await new Promise((resolve) => setTimeout(resolve, 800));
-    return { count, most: Math.ceil((performance.now() - begin) / 50) + 1 };
-  });
-  assert.ok(ticks.count <= ticks.most && ticks.count > 3, JSON.stringify(ticks));
-}, kPage);
-
 onPage("on a phone the page scrolls, can be pinched, and fingers reach the controls", async (page) => {
   await page.setViewport({ width: 390, height: 760, deviceScaleFactor: 3, isMobile: true,
                            hasTouch: true });
@@ -222,19 +198,17 @@ onPage("on a phone the page scrolls, can be pinched, and fingers reach the contr
   assert.ok(scrolls >= 1243, String(scrolls));
   const viewport = await page.$eval("meta[name=viewport]", (meta) => meta.getAttribute("content"));
   assert.doesNotMatch(viewport ?? "", /user-scalable|maximum-scale/);
-  const arrow = (await page.$("#sclPeri + .more"))!;
-  await arrow.scrollIntoView();
-  const box = (await arrow.boundingBox())!;
-  await page.touchscreen.tap(box.x + box.width / 2, box.y - 6); // beside what is drawn
+  await page.$eval("#sclPeri + .more", (arrow) => arrow.scrollIntoView());
+  const arrow = await boxOf(page, "#sclPeri + .more");
+  await page.touchscreen.tap(arrow.x + arrow.width / 2, arrow.y - 6); // beside what is drawn
   assert.equal(await valueOf(page, "sclPeri"), "7");
-  await page.touchscreen.tap(30, 8);
   await page.evaluate(() => window.scrollTo(0, 0));
-  const help = (await (await page.$("#mnHelp"))!.boundingBox())!;
-  await page.touchscreen.tap(help.x + 10, help.y + 8);
-  const guide = (await (await page.$("#mnUserGuide"))!.boundingBox())!;
-  await page.touchscreen.tap(guide.x + 30, guide.y + 8);
-  const dialog = (await (await page.$("#frmUserGuide"))!.boundingBox())!;
-  assert.ok(dialog.x >= 0 && dialog.x + dialog.width <= 390, JSON.stringify(dialog));
+  const tap = async (selector: string): Promise<void> => {
+    const { x, y, width, height } = await boxOf(page, selector);
+    assert.ok(x >= 0 && x + width <= 390, `${selector}: ${x} to ${x + width}`);
+    await page.touchscreen.tap(x + width / 2, y + height / 2);
+  };
+  for (const selector of ["#mnHelp", "#mnUserGuide", "#frmUserGuide"]) await tap(selector);
 }, kPage);
 
 onPage("pictures have a pixel for each of the screen's when its scale changes", async (page) => {
@@ -257,22 +231,14 @@ const kFaults: Readonly<Record<string, () => void>> = {
     WebAssembly.instantiate = () => Promise.reject<never>(new RangeError("could not allocate"));
   },
   "has met a fault and has stopped": () => { // at a tick
-    const instantiate = WebAssembly.instantiate.bind(WebAssembly);
-    WebAssembly.instantiate = (async (module: BufferSource, imports: WebAssembly.Imports) => {
-      const machine = imports["machine"] as Record<string, (to: number) => void>;
-      const now = machine["now"];
-      let calls = 0;
-      return instantiate(module, { ...imports, machine: { ...machine, now: (to: number) => {
-        if (++calls > 3) throw new WebAssembly.RuntimeError("unreachable");
-        now?.(to);
-      } } });
-    }) as typeof WebAssembly.instantiate;
+    setTimeout(() => Reflect.deleteProperty(window, "Date"), 100);
   },
 };
 for (const [words, prepare] of Object.entries(kFaults))
   onPage(`a fault is shown in one sentence: it ${words}`, async (page, _, faults) => {
-    const said = await (await page.waitForSelector("#fault"))?.evaluate((fault) => fault.textContent);
-    assert.match(said ?? "", new RegExp(`^Selvane ${words}: .*\\.$`));
+    const shown = await page.waitForSelector("#fault");
+    assert.match(await shown!.evaluate((fault) => fault.textContent ?? ""),
+                 new RegExp(`^Selvane ${words}: .*\\.$`));
     assert.equal(faults.splice(0).length, 1);
   }, kPage, 1, prepare);
 
@@ -295,9 +261,8 @@ onPage("500 documents one after another leave the memory as it was", async (page
   await page.keyboard.press("F1");
   const session = await page.createCDPSession();
   const load = (count: number) => page.evaluate((times) => {
-    const topics = ["lblIntroduction", "lblTerminology", "lblMainDisplay", "lblEnergy"];
-    for (let each = 0; each < times; ++each)
-      document.getElementById(`frmUserGuide.${topics[each % topics.length]}`)!.click();
+    const topics = [...document.querySelectorAll<HTMLElement>(".topic")];
+    for (let each = 0; each < times; ++each) topics[each % topics.length]!.click();
     return window.pageTest.call("test_memory");
   }, count);
   const measure = async () => {
