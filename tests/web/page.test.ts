@@ -103,6 +103,9 @@ onPage("dialogs open by keys, take the focus, move, and Escape closes them", asy
   await page.keyboard.press("Escape");
   assert.equal(await page.$("#frmUserGuide"), null);
   assert.equal(await dumped(page, "window.active"), "main");
+  await page.keyboard.press("F1");
+  assert.match(await page.$eval(".dialog .pane", (pane) => pane.textContent ?? ""), /^Welcome/);
+  await page.keyboard.press("Escape");
   await hand.do("menu mnAbout");
   assert.equal(await focused(page), "frmAbout.cmdOK");
   await page.click("[id='frmAbout.LblWebsite']");

@@ -148,20 +148,22 @@ export class Page {
   }
 
   private showWindows({ windows, frmAbout, raised }: Changes): void {
-    const { tables, dispatcher, dialogs } = this;
-    const openers = {
-      [kGuide]: () => openGuide(tables.guide, this.addPane("frmUserGuide.txtHelp", kGuide), dispatcher),
-      [kAbout]: () => openAbout(tables.about, this.icon, dispatcher),
-    };
+    const { dialogs } = this;
     for (const id of windows ? [kGuide, kAbout] as const : []) {
       if (!windows?.includes(id)) {
         dialogs.get(id)?.element.remove();
         dialogs.delete(id);
-      } else if (!dialogs.has(id)) dialogs.set(id, openers[id]());
+      } else if (!dialogs.has(id)) dialogs.set(id, this.openDialog(id));
     }
     for (const [name, text] of Object.entries(frmAbout ?? {}))
       document.getElementById(`frmAbout.${name}`)?.replaceChildren(text);
-    if (raised !== undefined) dialogs.get(dispatcher.activeWindow)?.bringUp();
+    if (raised !== undefined) dialogs.get(this.dispatcher.activeWindow)?.bringUp();
+  }
+
+  private openDialog(id: typeof kGuide | typeof kAbout): Dialog {
+    const { tables, icon, dispatcher } = this;
+    return id === kAbout ? openAbout(tables.about, icon, dispatcher)
+      : openGuide(tables.guide, this.addPane("frmUserGuide.txtHelp", kGuide), dispatcher);
   }
 
   // A document that has come into its pane is news, and is named by its title.
