@@ -25,12 +25,17 @@ const along = ({ x, y, width, height }: Spot, place: number) =>
 export class Hand {
   constructor(private readonly page: Page) {}
 
+  // Of a button that is clicked many times the first click is the mouse's.
   async do(action: string, times = 1): Promise<void> {
-    if (action.startsWith("tick "))
-      return this.page.evaluate((timer, count) => {
-        for (let each = 0; each < count; ++each) window.pageTest.tick(timer);
-      }, action.slice("tick ".length), times);
-    for (let each = 0; each < times; ++each) await this.doOnce(action);
+    const [verb, name = ""] = action.split(" ");
+    const inPage = verb === "tick" ? times : verb === "click" ? times - 1 : 0;
+    for (let each = inPage; each < times; ++each) await this.doOnce(action);
+    if (inPage === 0) return;
+    await this.page.evaluate((id, count, ticks) => {
+      for (let each = 0; each < count; ++each)
+        if (ticks) window.pageTest.tick(id);
+        else document.getElementById(id)?.click();
+    }, name, inPage, verb === "tick");
   }
 
   private async doOnce(action: string): Promise<void> {
