@@ -64,8 +64,8 @@ void WriteControls(Json& json)
         json.Members("place", row.place, "align", NameOf(row.alignment), "pixels",
                      Pixels(row.points), "bold", row.weight == Weight::Bold, "underline",
                      row.underline == Underline::Yes, "colour", row.colour, "filled",
-                     row.backdrop == Backdrop::Window, "room", RoomOf(row.id).value_or(0), "link",
-                     kHandlers.label[Index(row.id)] != nullptr);
+                     row.backdrop == Backdrop::Window, "maxWidth", RoomOf(row.id).value_or(0),
+                     "link", kHandlers.label[Index(row.id)] != nullptr);
     });
     WriteRows(json, "menus", MenuTable(), [&](const MenuRow& row) {
         json.Members("caption", row.caption, "checkable", row.checkable, "under",

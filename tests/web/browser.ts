@@ -6,7 +6,7 @@ import { instrument } from "./instrument";
 
 export const kPage = "build/web/selvane.html"; // what people open
 export const kTestPage = "build/web/selvane_test.html"; // the same with a module that tests can ask
-export const kRoom = { width: 1700, height: 1000 }; // for the main window and dialogs beside it
+export const kViewport = { width: 1700, height: 1000 }; // for the main window and dialogs beside it
 
 export async function openBrowser(): Promise<Browser> {
   if (process.env["SELVANE_BROWSER"] === "firefox")
@@ -34,7 +34,7 @@ export async function openPage(browser: Browser, file = kPage, scale = 1, prepar
   });
   if (file === kTestPage) await page.evaluateOnNewDocument(instrument);
   if (prepare) await page.evaluateOnNewDocument(prepare);
-  await page.setViewport({ ...kRoom, deviceScaleFactor: scale });
+  await page.setViewport({ ...kViewport, deviceScaleFactor: scale });
   await page.goto(pathToFileURL(file).href);
   await page.waitForSelector("#panel, #fault");
   return { page, faults };

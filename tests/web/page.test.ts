@@ -6,7 +6,7 @@ import { createServer } from "node:http";
 import { readFileSync, statSync } from "node:fs";
 import type { AddressInfo } from "node:net";
 import type { Page } from "puppeteer-core";
-import { kPage, kRoom } from "./browser";
+import { kPage, kViewport } from "./browser";
 import { onPage } from "./on_page";
 
 const focused = (page: Page) => page.evaluate(() => document.activeElement?.id ?? "");
@@ -216,7 +216,7 @@ onPage("on a phone the page scrolls, can be pinched, and fingers reach the contr
 
 onPage("pictures have a pixel for each of the screen's when its scale changes", async (page) => {
   for (const scale of [1, 3, 1.25]) {
-    await page.setViewport({ ...kRoom, deviceScaleFactor: scale });
+    await page.setViewport({ ...kViewport, deviceScaleFactor: scale });
     await page.waitForFunction((width) => {
       const canvas = document.getElementById("picSelvane") as HTMLCanvasElement;
       return canvas.width === width && canvas.clientWidth === 800;

@@ -89,9 +89,9 @@ export class Label {
     if (row.underline) style.textDecoration = "underline";
     if (row.colour) style.color = cssOf(row.colour);
     this.element.classList.toggle("filled", row.filled);
-    if (row.room === 0) return;
+    if (row.maxWidth === 0) return;
     this.words.className = "elided";
-    this.words.style.maxWidth = `${row.room}px`;
+    this.words.style.maxWidth = `${row.maxWidth}px`;
     this.element.addEventListener("pointerenter", () => this.completeToolTip());
   }
 }

@@ -12,7 +12,7 @@ export type ButtonRow = Row<{ caption: string; glyph: Glyph }>;
 export type LabelRow = Row<{
   align: "left" | "center" | "right"; pixels: number; bold: boolean; underline: boolean;
   colour: Colour | null; filled: boolean; link: boolean;
-  room: number; // pixels that the text may take; 0: as it needs
+  maxWidth: number; // pixels that the text may take; 0: as it needs
 }>;
 export type TimerRow = Readonly<{ name: string; runsHidden: boolean }>;
 export type MenuRow = Readonly<{
