@@ -14,6 +14,15 @@ constexpr std::size_t kMaxAllBytes = std::size_t{64} << 20;
 constexpr std::int32_t kMaxSide = 8192;  // pixels
 constexpr std::int32_t kMaxScale = 1000; // per cent
 
+// 0 to 15, or -1.
+int HexDigit(char c)
+{
+    if (c >= '0' && c <= '9') return c - '0';
+    if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+    if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+    return -1;
+}
+
 struct Size
 {
     std::int64_t width = 0, height = 0; // pixels

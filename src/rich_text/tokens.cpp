@@ -1,6 +1,7 @@
 #include "rich_text/tokens.h"
 
 #include <algorithm>
+#include <charconv>
 #include <limits>
 
 namespace selvane::rich_text {
@@ -13,10 +14,6 @@ bool IsLetter(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
-bool IsDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 bool EndsText(char c)
 {
@@ -25,18 +22,10 @@ bool EndsText(char c)
 
 } // namespace
 
-int HexDigit(char character)
-{
-    if (IsDigit(character)) return character - '0';
-    if (character >= 'a' && character <= 'f') return character - 'a' + 10;
-    if (character >= 'A' && character <= 'F') return character - 'A' + 10;
-    return -1;
-}
-
 Token Tokens::Take(TokenKind kind, std::size_t length)
 {
-    Token token{kind, bytes_.substr(at_, length)};
-    at_ += length;
+    const Token token{kind, bytes_.substr(at_, length)};
+    at_ += token.text.size();
     return token;
 }
 
@@ -61,88 +50,60 @@ Token Tokens::Next()
     default:
         break;
     }
-    const auto first = bytes_.substr(at_).begin();
-    const auto last = std::find_if(first, bytes_.end(), EndsText);
-    return Take(TokenKind::Text, static_cast<std::size_t>(last - first));
+    const std::string_view rest = bytes_.substr(at_);
+    const auto length = std::ranges::find_if(rest, EndsText) - rest.begin();
+    return Take(TokenKind::Text, static_cast<std::size_t>(length));
 }
 
 Token Tokens::Control()
 {
-    if (at_ >= bytes_.size()) return Next();
+    if (at_ >= bytes_.size() || Peek() == '\t') return Next();
     if (IsLetter(Peek())) return Word();
     if (Peek() == '\'') return HexByte();
-    if (Peek() == '\n' || Peek() == '\r') return LineEnd();
-    if (Peek() == '\t') return Next();
-    return Take(TokenKind::Symbol, 1);
-}
-
-Token Tokens::LineEnd()
-{
-    const bool pair = bytes_.substr(at_).starts_with("\r\n");
-    at_ += pair ? 2 : 1;
-    return {TokenKind::Word, "par"};
+    const Token symbol = Take(TokenKind::Symbol, 1);
+    const bool isLineEnd = symbol.text == "\n" || symbol.text == "\r"; // of a pair, the first
+    return isLineEnd ? Token{TokenKind::Word, "par"} : symbol;
 }
 
 Token Tokens::HexByte()
 {
     ++at_;
-    Token token{TokenKind::Byte, {}, true, -1};
-    const int high = HexDigit(Peek());
-    if (high < 0) return token;
-    ++at_;
-    const int low = HexDigit(Peek());
-    if (low < 0) return token;
-    ++at_;
-    token.number = high * 16 + low;
-    return token;
+    const std::string_view digits = bytes_.substr(at_, 2);
+    std::uint8_t byte = 0;
+    const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16).ptr;
+    const auto read = static_cast<std::size_t>(end - digits.data());
+    at_ += read;
+    return {TokenKind::Byte, {}, true, read == 2 ? byte : -1};
 }
 
 Token Tokens::Word()
 {
-    const std::size_t start = at_;
-    while (IsLetter(Peek())) ++at_;
-    Token token{TokenKind::Word, bytes_.substr(start, at_ - start)};
-    if (token.text.size() > kLongestWord) token.text = {};
-    const bool negative = Peek() == '-' && at_ + 1 < bytes_.size() && IsDigit(bytes_[at_ + 1]);
-    if (negative) ++at_;
-    if (IsDigit(Peek())) {
-        token.hasNumber = true;
-        token.number = Digits(negative);
-    }
-    if (Peek() == ' ') ++at_;
-    return token.text == "bin" ? Binary(token.number) : token;
-}
-
-std::int32_t Tokens::Digits(bool negative)
-{
     using Limits = std::numeric_limits<std::int32_t>;
-    std::int64_t value = 0;
-    for (; IsDigit(Peek()); ++at_)
-        value = std::min<std::int64_t>(value * 10 + (Peek() - '0'), std::int64_t{1} << 32);
-    if (negative) value = -value;
-    return static_cast<std::int32_t>(std::clamp<std::int64_t>(value, Limits::min(), Limits::max()));
-}
-
-Token Tokens::Binary(std::int32_t length)
-{
-    const auto wanted = static_cast<std::size_t>(std::max(length, 0));
-    return Take(TokenKind::Binary, std::min(wanted, bytes_.size() - at_));
+    const char* const first = bytes_.data() + at_;
+    const char* const last = bytes_.data() + bytes_.size();
+    const char* const number = std::find_if_not(first, last, IsLetter);
+    Token token = Take(TokenKind::Word, static_cast<std::size_t>(number - first));
+    if (token.text.size() > kLongestWord) token.text = {};
+    const auto [end, error] = std::from_chars(number, last, token.number);
+    token.hasNumber = end != number;
+    if (error == std::errc::result_out_of_range)
+        token.number = *number == '-' ? Limits::min() : Limits::max();
+    at_ += static_cast<std::size_t>(end - number);
+    if (Peek() == ' ') ++at_;
+    if (token.text == "bin")
+        token = Take(TokenKind::Binary, static_cast<std::size_t>(std::max(token.number, 0)));
+    return token;
 }
 
 void Tokens::SkipGroup()
 {
-    std::size_t depth = 0;
-    for (;;) {
-        const Token token = Next();
-        if (token.kind == TokenKind::End) return;
-        if (token.kind == TokenKind::GroupStart) ++depth;
-        if (token.kind != TokenKind::GroupEnd) continue;
-        if (depth == 0) {
-            --at_;
-            return;
-        }
-        --depth;
+    for (std::size_t depth = 1; depth > 0;) {
+        const TokenKind kind = Next().kind;
+        if (kind == TokenKind::End) return;
+        if (kind == TokenKind::GroupStart) ++depth;
+        if (kind == TokenKind::GroupEnd) --depth;
     }
+    --at_;
 }
 
 } // namespace selvane::rich_text

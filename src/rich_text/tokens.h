@@ -41,17 +41,11 @@ private:
     Token Control();
     Token Word();
     Token HexByte();
-    Token LineEnd();
-    Token Binary(std::int32_t length);
-    std::int32_t Digits(bool negative);
     char Peek() const { return at_ < bytes_.size() ? bytes_[at_] : '\0'; }
 
     std::string_view bytes_;
     std::size_t at_ = 0;
     bool ranOut_ = false;
 };
-
-// 0 to 15, or -1.
-int HexDigit(char character);
 
 } // namespace selvane::rich_text
