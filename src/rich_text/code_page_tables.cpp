@@ -36,18 +36,10 @@ constexpr SymbolSet kSymbol =
 
 const char16_t* UpperHalfOf(std::int32_t page)
 {
-    switch (page) {
-    case 10000:
-        return kPage10000;
-    case 10006:
-        return kPage10006;
-    case 10007:
-        return kPage10007;
-    case 10081:
-        return kPage10081;
-    default:
-        return nullptr;
-    }
+    if (page == 10000) return kPage10000;
+    if (page == 10006) return kPage10006;
+    if (page == 10007) return kPage10007;
+    return page == 10081 ? kPage10081 : nullptr;
 }
 
 char16_t SymbolCharacter(std::uint8_t byte)

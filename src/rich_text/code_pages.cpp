@@ -3,27 +3,12 @@
 #include "rich_text/code_page_tables.h"
 
 #include <algorithm>
+#include <bit>
 #include <iterator>
 
 namespace selvane::rich_text {
 
 namespace {
-
-// The number of bytes of the UTF-8 character that begins with this one; 0: none does.
-std::size_t Utf8Length(std::uint8_t lead)
-{
-    if (lead >= 0xC2 && lead <= 0xDF) return 2;
-    if (lead >= 0xE0 && lead <= 0xEF) return 3;
-    if (lead >= 0xF0 && lead <= 0xF4) return 4;
-    return 0;
-}
-
-// True for a second byte that would make the character overlong, a surrogate or too big.
-bool IsBadSecond(std::uint8_t lead, std::uint8_t second)
-{
-    return (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) ||
-           (lead == 0xF0 && second < 0x90) || (lead == 0xF4 && second > 0x8F);
-}
 
 struct PageRow
 {
@@ -83,24 +68,13 @@ std::int32_t PageOfCharacterSet(std::int32_t characterSet)
 
 void AppendUtf8(std::string& text, char32_t character)
 {
-    const auto put = [&text](char32_t byte) { text += static_cast<char>(byte); };
-    const auto follow = [&](int shift) { put(0x80 | ((character >> shift) & 0x3F)); };
+    static constexpr char32_t kLeads[] = {0xC0, 0xE0, 0xF0};
     if (character > 0x10FFFF || (character >= 0xD800 && character <= 0xDFFF)) return;
-    if (character < 0x80) {
-        put(character);
-    } else if (character < 0x800) {
-        put(0xC0 | (character >> 6));
-        follow(0);
-    } else if (character < 0x10000) {
-        put(0xE0 | (character >> 12));
-        follow(6);
-        follow(0);
-    } else {
-        put(0xF0 | (character >> 18));
-        follow(12);
-        follow(6);
-        follow(0);
-    }
+    const auto put = [&text](char32_t byte) { text += static_cast<char>(byte); };
+    if (character < 0x80) return put(character);
+    int following = character < 0x800 ? 1 : character < 0x10000 ? 2 : 3;
+    put(kLeads[following - 1] | character >> 6 * following);
+    while (following-- > 0) put(0x80 | (character >> 6 * following & 0x3F));
 }
 
 void ByteDecoder::Feed(std::uint8_t byte, std::int32_t page, std::string& text)
@@ -151,23 +125,26 @@ void ByteDecoder::FeedPair(std::uint8_t byte, std::string& text)
     if (character.empty() && byte < 0x80) text += static_cast<char>(byte);
 }
 
+// A character that is overlong, a surrogate or too big is dropped when its last byte has come.
 void ByteDecoder::FeedUtf8(std::uint8_t byte, std::string& text)
 {
-    const bool follows = (byte & 0xC0) == 0x80;
-    const bool bad =
-        !follows || !IsPending() ||
-        (pending_.size() == 1 && IsBadSecond(static_cast<std::uint8_t>(pending_[0]), byte));
-    if (bad) {
+    static constexpr char32_t kLeast[] = {0x80, 0x800, 0x10000}; // by number of bytes, from two on
+    const int ones = std::countl_one(byte); // 0: a plain character; 1: goes on; else how many bytes
+    if (ones != 1) {
         Reset();
-        if (byte < 0x80)
-            text += static_cast<char>(byte);
-        else if (Utf8Length(byte) > 0)
-            pending_ = static_cast<char>(byte);
+        if (ones == 0) text += static_cast<char>(byte);
+        if (ones >= 2 && ones <= 4) pending_ = static_cast<char>(byte);
         return;
     }
+    if (!IsPending()) return;
     pending_ += static_cast<char>(byte);
-    if (pending_.size() < Utf8Length(static_cast<std::uint8_t>(pending_[0]))) return;
-    text += pending_;
+    const auto lead = static_cast<std::uint8_t>(pending_[0]);
+    const auto length = static_cast<std::size_t>(std::countl_one(lead));
+    if (pending_.size() < length) return;
+    char32_t character = lead & (0x7Fu >> length);
+    for (const char next : pending_.substr(1))
+        character = character << 6 | (static_cast<std::uint8_t>(next) & 0x3Fu);
+    if (character >= kLeast[length - 2]) AppendUtf8(text, character);
     Reset();
 }
 

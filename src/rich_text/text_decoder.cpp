@@ -10,18 +10,12 @@ namespace selvane::rich_text {
 namespace {
 
 constexpr char32_t kBullet = 0x2022;
+constexpr char32_t kHighSurrogate = 0xD800; // the first of 1024 of them
+constexpr char32_t kLowSurrogate = 0xDC00;
 
 bool IsPlain(char c)
 {
     return c >= 0x20 && c < 0x7F;
-}
-bool IsHighSurrogate(char32_t unit)
-{
-    return unit >= 0xD800 && unit <= 0xDBFF;
-}
-bool IsLowSurrogate(char32_t unit)
-{
-    return unit >= 0xDC00 && unit <= 0xDFFF;
 }
 
 char32_t UnitOf(std::int32_t number)
@@ -40,19 +34,12 @@ void TextDecoder::Reset()
 
 std::string_view TextDecoder::Bytes(std::string_view bytes, const Encoding& encoding)
 {
+    const bool mayBePlain = encoding.glyphs == Glyphs::Text && !decoder_.IsPending();
+    const auto end = std::find_if_not(bytes.begin(), bytes.end(), IsPlain);
+    const auto plain = mayBePlain ? static_cast<std::size_t>(end - bytes.begin()) : 0;
     highSurrogate_ = 0;
-    text_.clear();
-    while (!bytes.empty()) {
-        if (encoding.glyphs == Glyphs::Text && !decoder_.IsPending()) {
-            const auto end = std::find_if_not(bytes.begin(), bytes.end(), IsPlain);
-            const auto length = static_cast<std::size_t>(end - bytes.begin());
-            text_ += bytes.substr(0, length);
-            bytes.remove_prefix(length);
-            if (bytes.empty()) break;
-        }
-        Byte(static_cast<std::uint8_t>(bytes.front()), encoding);
-        bytes.remove_prefix(1);
-    }
+    text_ = bytes.substr(0, plain);
+    for (const char byte : bytes.substr(plain)) Byte(static_cast<std::uint8_t>(byte), encoding);
     return text_;
 }
 
@@ -83,14 +70,13 @@ std::string_view TextDecoder::Unicode(std::int32_t number, const Encoding& encod
 {
     const char32_t unit = UnitOf(number);
     const char32_t high = std::exchange(highSurrogate_, 0);
-    if (IsHighSurrogate(unit)) {
+    if (unit < kHighSurrogate || unit >= kLowSurrogate + 0x400) return CodePoint(unit, encoding);
+    if (unit < kLowSurrogate) {
         decoder_.Reset();
         highSurrogate_ = unit;
-        return {};
     }
-    if (!IsLowSurrogate(unit)) return CodePoint(unit, encoding);
-    if (high == 0) return {};
-    return CodePoint(0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00), encoding);
+    if (unit < kLowSurrogate || high == 0) return {};
+    return CodePoint(0x10000 + ((high - kHighSurrogate) << 10) + (unit - kLowSurrogate), encoding);
 }
 
 // Symbol fonts have their glyphs at F020 to F0FF; control characters that Unicode text may have
