@@ -1,18 +1,17 @@
 #include "rich_text/fields.h"
 
+#include "rich_text/ascii.h"
+
 #include <algorithm>
 #include <charconv>
+#include <initializer_list>
 
 namespace selvane::rich_text {
 
 namespace {
 
 constexpr std::size_t kMaxLinks = 65'536;
-
-bool IsBlank(char c)
-{
-    return c == ' ' || c == '\t' || c == '\n';
-}
+constexpr std::string_view kBlanks = " \t\n";
 
 // Reads an instruction word by word. A word in quotes keeps its blanks; a switch is a backslash
 // and a letter; a backslash in quotes takes the next character as it is.
@@ -29,11 +28,12 @@ public:
 
     std::optional<Word> Next()
     {
-        while (!text_.empty() && IsBlank(text_.front())) text_.remove_prefix(1);
+        text_.remove_prefix(std::min(text_.find_first_not_of(kBlanks), text_.size()));
         if (text_.empty()) return std::nullopt;
-        for (const std::string_view quote : {"\"", "\u201C", "\u201D", "\u201E"})
-            if (text_.starts_with(quote)) return Word{Quoted(quote.size())};
-        return Bare();
+        if (TakeOneOf({"\"", "\u201C", "\u201D", "\u201E"})) return Word{Quoted()};
+        const std::string_view word = text_.substr(0, text_.find_first_of(kBlanks));
+        text_.remove_prefix(word.size());
+        return Word{std::string(word), word.front() == '\\' && word.size() <= 2};
     }
 
     // The word that follows a switch; empty if the next is a switch too, or none is left.
@@ -47,16 +47,20 @@ public:
     }
 
 private:
-    std::string Quoted(std::size_t quoteLength)
+    bool TakeOneOf(std::initializer_list<std::string_view> marks)
     {
-        text_.remove_prefix(quoteLength);
+        for (const std::string_view mark : marks) {
+            if (!text_.starts_with(mark)) continue;
+            text_.remove_prefix(mark.size());
+            return true;
+        }
+        return false;
+    }
+
+    std::string Quoted()
+    {
         std::string word;
-        while (!text_.empty()) {
-            for (const std::string_view quote : {"\"", "\u201C", "\u201D"}) {
-                if (!text_.starts_with(quote)) continue;
-                text_.remove_prefix(quote.size());
-                return word;
-            }
+        while (!text_.empty() && !TakeOneOf({"\"", "\u201C", "\u201D"})) {
             if (text_.front() == '\\' && text_.size() > 1) text_.remove_prefix(1);
             word += text_.front();
             text_.remove_prefix(1);
@@ -64,24 +68,8 @@ private:
         return word;
     }
 
-    Word Bare()
-    {
-        const auto end = std::find_if(text_.begin(), text_.end(), IsBlank);
-        const auto length = static_cast<std::size_t>(end - text_.begin());
-        Word word{std::string(text_.substr(0, length)), text_.front() == '\\' && length <= 2};
-        text_.remove_prefix(length);
-        return word;
-    }
-
     std::string_view text_;
 };
-
-bool IsName(std::string_view word, std::string_view upperCaseName)
-{
-    return std::ranges::equal(word, upperCaseName, [](char a, char b) {
-        return (a >= 'a' && a <= 'z' ? static_cast<char>(a - 'a' + 'A') : a) == b;
-    });
-}
 
 std::int32_t Number(std::string_view text)
 {
@@ -97,7 +85,7 @@ std::string HyperlinkTarget(std::string_view instruction)
 {
     InstructionWords words(instruction);
     const auto name = words.Next();
-    if (!name || !IsName(name->text, "HYPERLINK")) return {};
+    if (!name || Capitals(name->text) != "HYPERLINK") return {};
     std::string target;
     std::string part;
     while (const auto word = words.Next()) {
@@ -129,7 +117,7 @@ std::optional<SymbolField> Field::Symbol() const
 {
     InstructionWords words(instruction.value);
     const auto name = words.Next();
-    if (!name || !IsName(name->text, "SYMBOL")) return std::nullopt;
+    if (!name || Capitals(name->text) != "SYMBOL") return std::nullopt;
     SymbolField symbol;
     while (const auto word = words.Next()) {
         if (!word->isSwitch)

@@ -1,11 +1,14 @@
 #include "rich_text/html.h"
 
+#include "rich_text/ascii.h"
 #include "rich_text/layout.h"
 #include "rich_text/table_grid.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
+#include <iterator>
+#include <utility>
 
 namespace selvane::rich_text {
 
@@ -49,27 +52,16 @@ std::string Colours(Colour colour)
 // Safe in text and between double quotes.
 std::string Escaped(std::string_view text)
 {
+    static constexpr std::pair<char, std::string_view> kEntities[] = {
+        {'&', "&amp;"}, {'<', "&lt;"}, {'>', "&gt;"}, {'"', "&quot;"}, {'\'', "&#39;"}};
     std::string escaped;
     for (const char c : text) {
-        switch (c) {
-        case '&':
-            escaped += "&amp;";
-            break;
-        case '<':
-            escaped += "&lt;";
-            break;
-        case '>':
-            escaped += "&gt;";
-            break;
-        case '"':
-            escaped += "&quot;";
-            break;
-        case '\'':
-            escaped += "&#39;";
-            break;
-        default:
-            if (static_cast<unsigned char>(c) >= 0x20 && c != 0x7F) escaped += c;
-        }
+        const auto* entity =
+            std::ranges::find(kEntities, c, &std::pair<char, std::string_view>::first);
+        if (entity != std::end(kEntities))
+            escaped += entity->second;
+        else if (static_cast<unsigned char>(c) >= 0x20 && c != 0x7F)
+            escaped += c;
     }
     return escaped;
 }
@@ -92,11 +84,8 @@ std::string Base64(std::string_view bytes)
 
 bool IsWebAddress(std::string_view address)
 {
-    for (const std::string_view scheme : {"http://", "https://", "mailto:"})
-        if (address.size() > scheme.size() &&
-            std::ranges::equal(address.substr(0, scheme.size()), scheme, [](char a, char b) {
-                return (a >= 'A' && a <= 'Z' ? static_cast<char>(a - 'A' + 'a') : a) == b;
-            }))
+    for (const std::string_view scheme : {"HTTP://", "HTTPS://", "MAILTO:"})
+        if (address.size() > scheme.size() && Capitals(address.substr(0, scheme.size())) == scheme)
             return true;
     return false;
 }
@@ -109,7 +98,7 @@ public:
     {
         text_.append(property).append(":").append(value).append(";");
     }
-    std::string Attribute() const { return text_.empty() ? "" : " style=\"" + text_ + '"'; }
+    std::string Attribute() const { return " style=\"" + text_ + '"'; }
 
 private:
     std::string text_;
@@ -271,11 +260,8 @@ private:
                 html_ += '\t';
                 continue;
             }
-            Style style;
-            style.Add("display", "inline-block");
-            style.Add("min-width", TwipsInPixels(stops[i].position - begin));
-            style.Add("text-indent", "0");
-            html_ += "<span" + style.Attribute() + '>';
+            html_ += "<span style=\"display:inline-block;min-width:" +
+                     TwipsInPixels(stops[i].position - begin) + ";text-indent:0;\">";
             WritePieces(betweenTabs[i]);
             html_ += "</span>";
             begin = stops[i].position;
@@ -316,42 +302,28 @@ private:
         if (static_cast<std::size_t>(index) >= document_.pictures.size()) return;
         const Picture& picture = document_.pictures[static_cast<std::size_t>(index)];
         const PixelSize size = ShownSize(picture);
-        Style style;
+        const std::string width = "max-width:100%;width:" + Pixels(size.width);
         if (picture.kind == PictureKind::Placeholder) {
-            style.Add("display", "inline-block");
-            style.Add("box-sizing", "border-box");
-            style.Add("max-width", "100%");
-            style.Add("width", Pixels(size.width));
-            style.Add("height", Pixels(size.height));
-            style.Add("background-color", "#f0f0f0");
-            style.Add("border", "1px solid #a0a0a0");
-            html_ += "<span" + style.Attribute() + "></span>";
+            html_ += "<span style=\"display:inline-block;box-sizing:border-box;" + width +
+                     ";height:" + Pixels(size.height) +
+                     ";background-color:#f0f0f0;border:1px solid #a0a0a0;\"></span>";
             return;
         }
-        style.Add("max-width", "100%");
-        style.Add("width", Pixels(size.width));
-        style.Add("aspect-ratio", Decimal(size.width) + " / " + Decimal(size.height));
         const std::string data = Base64(picture.bytes);
         pictureBytes_ += data.size();
-        html_ += "<img alt=\"\"" + style.Attribute() + " src=\"data:image/";
-        html_ += picture.kind == PictureKind::Png ? "png" : "jpeg";
-        html_ += ";base64," + data + "\">";
+        html_ += "<img alt=\"\" style=\"" + width + ";aspect-ratio:" + Decimal(size.width) + " / " +
+                 Decimal(size.height) + ";\" src=\"data:image/" +
+                 (picture.kind == PictureKind::Png ? "png" : "jpeg") + ";base64," + data + "\">";
     }
 
     void WriteTable(const Table& table)
     {
         const TableGrid grid = MakeGrid(table);
         const int whole = grid.Width();
-        Style style;
-        style.Add("border-collapse", "collapse");
-        style.Add("table-layout", "fixed");
-        style.Add("width", grid.IsWide() ? "100%" : TwipsInPixels(whole));
-        html_ += "<table" + style.Attribute() + "><colgroup>";
-        for (const int width : grid.columnWidths) {
-            Style column;
-            column.Add("width", Decimal(100.0 * width / whole) + '%');
-            html_ += "<col" + column.Attribute() + '>';
-        }
+        html_ += "<table style=\"border-collapse:collapse;table-layout:fixed;width:" +
+                 (grid.IsWide() ? "100%" : TwipsInPixels(whole)) + ";\"><colgroup>";
+        for (const int width : grid.columnWidths)
+            html_ += "<col style=\"width:" + Decimal(100.0 * width / whole) + "%;\">";
         html_ += "</colgroup><tbody>";
         auto cell = grid.cells.begin();
         for (std::size_t row = 0; row < table.rows.size() && !IsFull(); ++row) {
@@ -365,20 +337,17 @@ private:
 
     void WriteCell(const PlacedCell& cell, bool isHeader)
     {
-        const char* name = isHeader ? "th" : "td";
-        Style style;
-        style.Add("padding", "3px");
-        style.Add("vertical-align", "top");
-        style.Add("text-align", "start");
-        if (cell.format->bordered) style.Add("border", "1px solid #808080");
+        const std::string name = isHeader ? "th" : "td";
+        html_ += '<' + name + " style=\"padding:3px;vertical-align:top;text-align:start;";
+        if (cell.format->bordered) html_ += "border:1px solid #808080;";
         if (cell.format->background)
-            style.Add("background-color", Colours(*cell.format->background));
-        html_ += std::string("<") + name + style.Attribute();
+            html_ += "background-color:" + Colours(*cell.format->background) + ';';
+        html_ += '"';
         if (cell.rows > 1) html_ += " rowspan=\"" + std::to_string(cell.rows) + '"';
         if (cell.columns > 1) html_ += " colspan=\"" + std::to_string(cell.columns) + '"';
         html_ += '>';
         for (const std::vector<Block>* blocks : cell.contents) WriteBlocks(*blocks);
-        html_ += std::string("</") + name + '>';
+        html_ += "</" + name + '>';
     }
 
     const Document& document_;
