@@ -13,16 +13,18 @@ namespace selvane::rich_text {
 class Destination;
 struct OldList;
 
-// All that a group, a pair of braces, saves and restores.
-struct Group
+// What \plain resets.
+struct CharacterState : CharacterFormat
 {
-    CharacterFormat character;
     bool hidden = false;
     bool deleted = false;
-    std::int32_t link = -1;
-    std::int32_t unicodeSkip = 1; // characters that stand behind a \u for readers without Unicode
 
-    ParagraphFormat paragraph;
+    bool IsSeen() const { return !hidden && !deleted; }
+};
+
+// What \pard resets.
+struct ParagraphState : ParagraphFormat
+{
     TabKind nextTabKind = TabKind::Left;
     std::int32_t style = 0;
     std::int32_t outline = -1;   // 0 to 9; -1: as the style has it
@@ -30,6 +32,15 @@ struct Group
     std::int32_t listLevel = 0;  // 0 to 8
     OldList* oldList = nullptr;
     std::int32_t tableNesting = 0; // 0: in no table
+};
+
+// All that a group, a pair of braces, saves and restores.
+struct Group
+{
+    CharacterState character;
+    ParagraphState paragraph;
+    std::int32_t link = -1;
+    std::int32_t unicodeSkip = 1; // characters that stand behind a \u for readers without Unicode
     bool inNestedTableProperties = false;
 
     Destination* destination = nullptr; // where text goes
@@ -55,13 +66,11 @@ public:
     Destination(const Destination&) = delete;
     Destination& operator=(const Destination&) = delete;
 
-    // False: the word is none of its own.
-    virtual bool OnWord(const Token& /*word*/, Group& /*group*/) { return false; }
+    // What the group is of from the word on: mostly this, or a part of it; nullptr: the word is
+    // none of its own.
+    virtual Destination* OnWord(const Token& /*word*/) { return nullptr; }
     virtual void OnText(std::string_view /*text*/, const Group& /*group*/) {}
     virtual void OnEnd(const Group& /*group*/) {}
-
-    // The destination of a group inside that begins with the word; nullptr: not one of its parts.
-    virtual Destination* PartOf(std::string_view /*word*/) { return nullptr; }
 
     const Takes takes;
 };

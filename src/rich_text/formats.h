@@ -5,9 +5,7 @@
 
 namespace selvane::rich_text {
 
-class ColourTable;
-
 // False: the word is none of these.
-bool ApplyFormatWord(const Token& word, Group& group, const ColourTable& colours);
+bool ApplyFormatWord(const Token& word, Group& group);
 
 } // namespace selvane::rich_text

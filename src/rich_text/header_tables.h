@@ -16,36 +16,33 @@ class FontTable : public Destination
 {
 public:
     FontTable() : Destination(Takes::Text) {}
-    bool OnWord(const Token& word, Group& group) override;
+    Destination* OnWord(const Token& word) override;
     void OnText(std::string_view text, const Group& group) override; // a semicolon ends a name
-
-    void SetCharacterSet(std::int32_t page) { characterSetPage_ = page; }
-    void SetCodePage(std::int32_t page);
-    void SetDefaultFont(std::int32_t font) { defaultFont_ = font; }
 
     // What bytes in a font mean; below 0: in the document's own font.
     Encoding EncodingOf(std::int32_t font) const;
-    Encoding EncodingOfNames() const; // of the fonts themselves
+    Encoding EncodingOfNames() const { return {Glyphs::Text, PageOf(current_)}; }
 
     std::map<std::int32_t, std::string> Names() const;
+
+    std::int32_t defaultFont = 0;
+    std::int32_t characterSetPage = kWesternPage;
+    std::int32_t codePage = 0; // 0: that of the character set
 
 private:
     struct Font
     {
-        std::int32_t characterSet = 1;
-        std::int32_t page = 0; // 0: that of the character set
+        std::int32_t page = 0;      // 0: that of the character set
+        std::int32_t pageOfSet = 0; // 0: that of the document
+        bool isOfSymbols = false;   // as its character set says
         Glyphs glyphs = Glyphs::Text;
         bool named = false;
         std::string name;
     };
-    Font* Current();
-    std::int32_t PageOf(std::int32_t font) const;
+    std::int32_t PageOf(const Font* font) const;
 
     std::unordered_map<std::int32_t, Font> fonts_;
-    std::int32_t current_ = -1;
-    std::int32_t defaultFont_ = 0;
-    std::int32_t characterSetPage_ = kWesternPage;
-    std::int32_t codePage_ = 0; // 0: that of the character set
+    Font* current_ = nullptr; // the one that is being defined
 };
 
 // \colortbl.
@@ -53,7 +50,7 @@ class ColourTable : public Destination
 {
 public:
     ColourTable() : Destination(Takes::Bytes) {}
-    bool OnWord(const Token& word, Group& group) override;
+    Destination* OnWord(const Token& word) override;
     void OnText(std::string_view text, const Group& group) override; // a semicolon ends an entry
     void OnEnd(const Group& group) override;                         // the last may have none
 
@@ -61,8 +58,6 @@ public:
     std::optional<Colour> Find(std::int32_t number) const;
 
 private:
-    Colour& Next();
-
     std::vector<std::optional<Colour>> colours_;
     std::optional<Colour> next_;
 };
@@ -72,11 +67,11 @@ class StyleSheet : public Destination
 {
 public:
     StyleSheet() : Destination(Takes::Text) {}
-    bool OnWord(const Token& word, Group& group) override;
+    Destination* OnWord(const Token& word) override;
     void OnText(std::string_view text, const Group& group) override; // a semicolon ends a name
 
     // Of a paragraph by its outline, or else by its style: 1 to 6; 0: no heading.
-    std::int8_t HeadingLevel(const Group& group) const;
+    std::int8_t HeadingLevel(const ParagraphState& paragraph) const;
 
 private:
     std::unordered_map<std::int32_t, std::int8_t> levels_;

@@ -1,5 +1,6 @@
 #include "rich_text/lists.h"
 
+#include "rich_text/ascii.h"
 #include "rich_text/words.h"
 
 #include <algorithm>
@@ -16,19 +17,14 @@ constexpr std::int32_t kLongestRoman = 3999;
 
 std::string Roman(std::int32_t number)
 {
-    struct Numeral
-    {
-        std::int32_t value;
-        const char* letters;
-    };
-    static constexpr Numeral kNumerals[] = {
+    static constexpr std::pair<std::int32_t, const char*> kNumerals[] = {
         {1000, "m"}, {900, "cm"}, {500, "d"}, {400, "cd"}, {100, "c"}, {90, "xc"}, {50, "l"},
         {40, "xl"},  {10, "x"},   {9, "ix"},  {5, "v"},    {4, "iv"},  {1, "i"},
     };
     if (number > kLongestRoman) return std::to_string(number);
     std::string text;
-    for (const Numeral& numeral : kNumerals)
-        for (; number >= numeral.value; number -= numeral.value) text += numeral.letters;
+    for (const auto& [value, letters] : kNumerals)
+        for (; number >= value; number -= value) text += letters;
     return text;
 }
 
@@ -47,11 +43,17 @@ std::string Ordinal(std::int32_t number)
     return std::to_string(number) + (ones == 1 ? "st" : ones == 2 ? "nd" : ones == 3 ? "rd" : "th");
 }
 
-std::string Capitals(std::string text)
+// "4", "IV", "iv", "D", "d", "4th", "04"; empty for bullets, for None and below 1.
+std::string NumberText(NumberStyle style, std::int32_t number)
 {
-    for (char& c : text)
-        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-    return text;
+    if (number < 1 && style != NumberStyle::Arabic) return {}; // no letter or Roman numeral is 0
+    if (style == NumberStyle::UpperRoman) return Capitals(Roman(number));
+    if (style == NumberStyle::LowerRoman) return Roman(number);
+    if (style == NumberStyle::UpperLetter) return Capitals(Letters(number));
+    if (style == NumberStyle::LowerLetter) return Letters(number);
+    if (style == NumberStyle::Ordinal) return Ordinal(number);
+    if (style == NumberStyle::Bullet || style == NumberStyle::None) return {};
+    return (style == NumberStyle::TwoDigits && number < 10 ? "0" : "") + std::to_string(number);
 }
 
 // Drops the stored length in front and the semicolon behind.
@@ -62,21 +64,11 @@ std::string_view Template(std::string_view stored)
     return stored;
 }
 
-std::string Trimmed(const std::string& text)
-{
-    const std::size_t first = text.find_first_not_of(" \t\n");
-    if (first == std::string::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t\n") - first + 1);
-}
-
-// As \levelnfc numbers them; those not known count as Arabic.
+// Those not known count as Arabic.
 NumberStyle NumberStyleOf(std::int32_t code)
 {
-    if (code == 22) return NumberStyle::TwoDigits;
-    if (code == 23) return NumberStyle::Bullet;
-    if (code == 255) return NumberStyle::None;
-    const bool isInOrder = code >= 0 && code <= static_cast<std::int32_t>(NumberStyle::Ordinal);
-    return isInOrder ? static_cast<NumberStyle>(code) : NumberStyle::Arabic;
+    const bool isKnown = (code >= 0 && code <= 5) || code == 22 || code == 23 || code == 255;
+    return static_cast<NumberStyle>(isKnown ? code : 0);
 }
 
 template <bool ShowsLabel, bool IsNumbered> void SetKind(OldList& list, const Token&)
@@ -90,7 +82,7 @@ template <NumberStyle Style> void SetStyle(OldList& list, const Token&)
     list.style = Style;
 }
 
-constexpr auto kOldListWords = WordTable<OldList>({
+constexpr WordTable<OldList, 32> kOldListWords{
     {"pnlvl",
      [](OldList& list, const Token& word) {
          list.showsLabel = list.isNumbered = true;
@@ -99,8 +91,7 @@ constexpr auto kOldListWords = WordTable<OldList>({
     {"pnlvlcont", SetKind<false, false>},
     {"pnlvlblt", SetKind<true, false>},
     {"pnlvlbody", SetKind<true, true>},
-    {"pncard", SetStyle<NumberStyle::Arabic>},
-    {"pndec", SetStyle<NumberStyle::Arabic>},
+    {"pncard pndec", SetStyle<NumberStyle::Arabic>},
     {"pnucrm", SetStyle<NumberStyle::UpperRoman>},
     {"pnlcrm", SetStyle<NumberStyle::LowerRoman>},
     {"pnucltr", SetStyle<NumberStyle::UpperLetter>},
@@ -108,7 +99,7 @@ constexpr auto kOldListWords = WordTable<OldList>({
     {"pnord", SetStyle<NumberStyle::Ordinal>},
     {"pnstart",
      [](OldList& list, const Token& word) { list.start = std::clamp(word.number, 0, kMaxNumber); }},
-});
+};
 
 // The label of an item by the texts of its list's levels.
 std::string LabelOf(const ListTable::List& list, const ListOverrideTable::Override& override,
@@ -121,9 +112,7 @@ std::string LabelOf(const ListTable::List& list, const ListOverrideTable::Overri
         if (place >= kListLevels) {
             label += c;
         } else if (place < list.levels.size()) {
-            const auto start = override.starts.find(place);
-            const std::int64_t first =
-                start == override.starts.end() ? list.levels[place].start : start->second;
+            const std::int64_t first = override.starts[place].value_or(list.levels[place].start);
             const std::int64_t count = std::max(list.counts[place], 1);
             const auto value = std::clamp<std::int64_t>(first + count - 1, 0, kMaxNumber);
             label += NumberText(list.levels[place].style, static_cast<std::int32_t>(value));
@@ -134,32 +123,7 @@ std::string LabelOf(const ListTable::List& list, const ListOverrideTable::Overri
 
 } // namespace
 
-std::string NumberText(NumberStyle style, std::int32_t number)
-{
-    if (number < 1 && style != NumberStyle::Arabic) return {}; // no letter or Roman numeral is 0
-    switch (style) {
-    case NumberStyle::UpperRoman:
-        return Capitals(Roman(number));
-    case NumberStyle::LowerRoman:
-        return Roman(number);
-    case NumberStyle::UpperLetter:
-        return Capitals(Letters(number));
-    case NumberStyle::LowerLetter:
-        return Letters(number);
-    case NumberStyle::Ordinal:
-        return Ordinal(number);
-    case NumberStyle::TwoDigits:
-        return (number < 10 ? "0" : "") + std::to_string(number);
-    case NumberStyle::Bullet:
-    case NumberStyle::None:
-        return {};
-    case NumberStyle::Arabic:
-        break;
-    }
-    return std::to_string(number);
-}
-
-bool ListTable::OnWord(const Token& word, Group&)
+Destination* ListTable::OnWord(const Token& word)
 {
     Level* level = CurrentLevel();
     if (word.text == "list") {
@@ -171,18 +135,14 @@ bool ListTable::OnWord(const Token& word, Group&)
         if (level) level->style = NumberStyleOf(word.number);
     } else if (word.text == "levelstartat") {
         if (level) level->start = word.number;
+    } else if (word.text == "leveltext") {
+        return level ? &level->label : nullptr;
     } else if (word.text == "listid") { // comes after the list's levels
-        if (!lists_.empty()) listOfId_[word.number] = &lists_.back();
+        if (!lists_.empty()) byId[word.number] = &lists_.back();
     } else {
-        return false;
+        return nullptr;
     }
-    return true;
-}
-
-Destination* ListTable::PartOf(std::string_view word)
-{
-    Level* level = CurrentLevel();
-    return word == "leveltext" && level ? &level->label : nullptr;
+    return this;
 }
 
 ListTable::Level* ListTable::CurrentLevel()
@@ -191,13 +151,7 @@ ListTable::Level* ListTable::CurrentLevel()
     return &lists_.back().levels.back();
 }
 
-ListTable::List* ListTable::Find(std::int32_t id)
-{
-    const auto found = listOfId_.find(id);
-    return found == listOfId_.end() ? nullptr : found->second;
-}
-
-bool ListOverrideTable::OnWord(const Token& word, Group&)
+Destination* ListOverrideTable::OnWord(const Token& word)
 {
     if (word.text == "listoverride") {
         current_ = {};
@@ -209,27 +163,18 @@ bool ListOverrideTable::OnWord(const Token& word, Group&)
     } else if (word.text == "levelstartat") {
         if (level_ >= 1 && level_ <= kListLevels) current_.starts[level_ - 1] = word.number;
     } else if (word.text == "ls") {
-        if (overrides_.size() < kMaxLists) overrides_[word.number] = current_;
+        if (byNumber.size() < kMaxLists) byNumber[word.number] = current_;
     } else {
-        return false;
+        return nullptr;
     }
-    return true;
+    return this;
 }
 
-const ListOverrideTable::Override* ListOverrideTable::Find(std::int32_t number) const
+Destination* OldList::OnWord(const Token& word)
 {
-    const auto found = overrides_.find(number);
-    return found == overrides_.end() ? nullptr : &found->second;
-}
-
-bool OldList::OnWord(const Token& word, Group&)
-{
-    return Apply(kOldListWords, *this, word);
-}
-
-Destination* OldList::PartOf(std::string_view word)
-{
-    return word == "pntxtb" ? &before : word == "pntxta" ? &after : nullptr;
+    if (word.text == "pntxtb") return &before;
+    if (word.text == "pntxta") return &after;
+    return kOldListWords.Apply(*this, word) ? this : nullptr;
 }
 
 OldList* Lists::AddOldList()
@@ -237,47 +182,49 @@ OldList* Lists::AddOldList()
     return oldLists_.size() < kMaxOldLists ? &oldLists_.emplace_back() : nullptr;
 }
 
-std::optional<ListItem> Lists::NextItem(const Group& group, std::string storedLabel)
+std::optional<ListItem> Lists::NextItem(const ParagraphState& paragraph,
+                                        std::string_view storedLabel)
 {
-    std::string stored = Trimmed(storedLabel);
-    if (group.listNumber <= 0) return NextOldItem(group, std::move(stored));
-    oldCount_ = 0;
-    const auto label = NextLabel(group.listNumber, static_cast<std::size_t>(group.listLevel));
-    if (!stored.empty()) return ListItem{group.listLevel, std::move(stored)};
-    if (!label) return std::nullopt;
-    return ListItem{group.listLevel, Trimmed(*label)};
+    constexpr std::string_view kBlanks = " \t\n";
+    const bool isNew = paragraph.listNumber > 0;
+    const bool isOld = !isNew && paragraph.oldList && paragraph.oldList->showsLabel;
+    const std::int32_t level = isOld ? paragraph.oldList->level : paragraph.listLevel;
+    std::optional<std::string> label;
+    if (isNew) label = NextLabel(paragraph.listNumber, static_cast<std::size_t>(level));
+    if (isOld)
+        label = NextOldLabel(*paragraph.oldList);
+    else
+        oldCount_ = 0;
+    const std::string_view stored = Trimmed(storedLabel, kBlanks);
+    if (!label && stored.empty()) return std::nullopt;
+    return ListItem{level, std::string(stored.empty() ? Trimmed(*label, kBlanks) : stored)};
 }
 
 // None if there is no such list, or its paragraphs show no label at all.
 std::optional<std::string> Lists::NextLabel(std::int32_t number, std::size_t level)
 {
-    const ListOverrideTable::Override* override = overrides.Find(number);
-    ListTable::List* list = override ? table.Find(override->list) : nullptr;
-    if (!list || level >= list->levels.size()) return std::nullopt;
+    const auto override = overrides.byNumber.find(number);
+    if (override == overrides.byNumber.end()) return std::nullopt;
+    const auto found = table.byId.find(override->second.list);
+    if (found == table.byId.end() || level >= found->second->levels.size()) return std::nullopt;
 
-    ++list->counts[level];
-    std::fill(list->counts.begin() + static_cast<std::ptrdiff_t>(level) + 1, list->counts.end(), 0);
-    std::string label = LabelOf(*list, *override, level);
-    if (label.empty() && list->levels[level].style == NumberStyle::None) return std::nullopt;
+    ListTable::List& list = *found->second;
+    ++list.counts[level];
+    std::fill(list.counts.data() + level + 1, list.counts.data() + kListLevels, 0);
+    std::string label = LabelOf(list, override->second, level);
+    if (label.empty() && list.levels[level].style == NumberStyle::None) return std::nullopt;
     return label;
 }
 
-std::optional<ListItem> Lists::NextOldItem(const Group& group, std::string stored)
+std::string Lists::NextOldLabel(const OldList& list)
 {
-    const OldList* list = group.oldList;
-    if (!list || !list->showsLabel) {
-        oldCount_ = 0;
-        if (stored.empty()) return std::nullopt;
-        return ListItem{group.listLevel, std::move(stored)};
-    }
-    const bool goesOn = oldStyle_ == list->style && oldLevel_ == list->level;
-    oldStyle_ = list->style;
-    oldLevel_ = list->level;
-    if (list->isNumbered) oldCount_ = goesOn ? oldCount_ + 1 : 1;
-    if (!stored.empty()) return ListItem{list->level, std::move(stored)};
-    const std::string number =
-        list->isNumbered ? NumberText(list->style, list->start + oldCount_ - 1) : "";
-    return ListItem{list->level, Trimmed(list->before.value + number + list->after.value)};
+    const bool goesOn = oldStyle_ == list.style && oldLevel_ == list.level;
+    oldStyle_ = list.style;
+    oldLevel_ = list.level;
+    if (!list.isNumbered) return list.before.value + list.after.value;
+    oldCount_ = goesOn ? oldCount_ + 1 : 1;
+    return list.before.value + NumberText(list.style, list.start + oldCount_ - 1) +
+           list.after.value;
 }
 
 } // namespace selvane::rich_text

@@ -15,21 +15,18 @@ inline constexpr std::size_t kListLevels = 9;
 inline constexpr std::int32_t kLastListLevel = kListLevels - 1;
 inline constexpr std::size_t kMaxLabelBytes = 256; // what a longer one has more is dropped
 
-// The first six in the order in which \levelnfc numbers them.
+// As \levelnfc numbers them.
 enum class NumberStyle : std::uint8_t {
-    Arabic,
-    UpperRoman,
-    LowerRoman,
-    UpperLetter,
-    LowerLetter,
-    Ordinal,
-    TwoDigits,
-    Bullet,
-    None
+    Arabic = 0,
+    UpperRoman = 1,
+    LowerRoman = 2,
+    UpperLetter = 3,
+    LowerLetter = 4,
+    Ordinal = 5,
+    TwoDigits = 22,
+    Bullet = 23,
+    None = 255
 };
-
-// "4", "IV", "iv", "D", "d", "4th", "04"; empty for bullets, for None and below 1.
-std::string NumberText(NumberStyle style, std::int32_t number);
 
 // \listtable: the definitions of lists.
 class ListTable : public Destination
@@ -49,16 +46,14 @@ public:
     };
 
     ListTable() : Destination(Takes::Nothing) {}
-    bool OnWord(const Token& word, Group& group) override;
-    Destination* PartOf(std::string_view word) override;
+    Destination* OnWord(const Token& word) override;
 
-    List* Find(std::int32_t id); // nullptr: none
+    std::map<std::int32_t, List*> byId;
 
 private:
     Level* CurrentLevel(); // nullptr before the first of a list
 
     std::deque<List> lists_;
-    std::map<std::int32_t, List*> listOfId_;
 };
 
 // \listoverridetable: which list a number in a paragraph means, and where it starts anew.
@@ -68,16 +63,15 @@ public:
     struct Override
     {
         std::int32_t list = 0;
-        std::map<std::size_t, std::int32_t> starts; // by level
+        std::array<std::optional<std::int32_t>, kListLevels> starts;
     };
 
     ListOverrideTable() : Destination(Takes::Nothing) {}
-    bool OnWord(const Token& word, Group& group) override;
+    Destination* OnWord(const Token& word) override;
 
-    const Override* Find(std::int32_t number) const; // nullptr: none
+    std::map<std::int32_t, Override> byNumber;
 
 private:
-    std::map<std::int32_t, Override> overrides_;
     Override current_;
     std::size_t level_ = 0; // counted from 1
 };
@@ -86,8 +80,7 @@ private:
 struct OldList : public Destination
 {
     OldList() : Destination(Takes::Nothing) {}
-    bool OnWord(const Token& word, Group& group) override;
-    Destination* PartOf(std::string_view word) override;
+    Destination* OnWord(const Token& word) override;
 
     bool showsLabel = false;
     bool isNumbered = false;
@@ -110,11 +103,11 @@ public:
 
     // Counts the paragraph that ends in, and gives its place in a list. A label that the writer
     // stored is what it showed; only where there is none it is worked out.
-    std::optional<ListItem> NextItem(const Group& group, std::string storedLabel);
+    std::optional<ListItem> NextItem(const ParagraphState& paragraph, std::string_view storedLabel);
 
 private:
     std::optional<std::string> NextLabel(std::int32_t number, std::size_t level);
-    std::optional<ListItem> NextOldItem(const Group& group, std::string storedLabel);
+    std::string NextOldLabel(const OldList& list);
 
     std::deque<OldList> oldLists_;
     std::int32_t oldCount_ = 0; // numbered paragraphs since the last one that was not

@@ -28,17 +28,12 @@ struct Size
     std::int64_t width = 0, height = 0; // pixels
 };
 
-std::uint8_t ByteAt(std::string_view data, std::size_t at)
-{
-    return static_cast<std::uint8_t>(data[at]);
-}
-
 // Big-endian; 0 past the end.
 std::int64_t Number(std::string_view data, std::size_t at, std::size_t length)
 {
     std::int64_t value = 0;
     for (std::size_t i = at; i < at + length; ++i)
-        value = value * 256 + (i < data.size() ? ByteAt(data, i) : 0);
+        value = value * 256 + (i < data.size() ? static_cast<std::uint8_t>(data[i]) : 0);
     return value;
 }
 
@@ -48,7 +43,7 @@ Size PngSize(std::string_view data)
     return {Number(data, 16, 4), Number(data, 20, 4)};
 }
 
-bool IsStartOfFrame(std::uint8_t marker)
+bool IsStartOfFrame(std::int64_t marker)
 {
     return marker >= 0xC0 && marker <= 0xCF && marker != 0xC4 && marker != 0xC8 && marker != 0xCC;
 }
@@ -58,8 +53,8 @@ Size JpegSize(std::string_view data)
 {
     std::size_t at = 2;
     while (at + 9 <= data.size()) {
-        if (ByteAt(data, at) != 0xFF) return {};
-        const std::uint8_t marker = ByteAt(data, at + 1);
+        if (Number(data, at, 1) != 0xFF) return {};
+        const std::int64_t marker = Number(data, at + 1, 1);
         if (IsStartOfFrame(marker)) return {Number(data, at + 7, 2), Number(data, at + 5, 2)};
         const bool hasLength = marker != 0xFF && marker != 0x01 && (marker < 0xD0 || marker > 0xD8);
         at += marker == 0xFF ? 1 : 2;
@@ -84,28 +79,20 @@ std::int32_t ShownLength(std::int32_t goal, std::int32_t scale, std::int32_t pix
 
 } // namespace
 
-void PictureReader::Start()
+Destination* PictureReader::OnWord(const Token& word)
 {
-    data_.clear();
-    pendingDigit_ = -1;
-    isTooBig_ = false;
-    goalWidth_ = goalHeight_ = 0;
-    scaleX_ = scaleY_ = 100;
-}
-
-bool PictureReader::OnWord(const Token& word, Group&)
-{
-    if (word.text == "picwgoal")
-        goalWidth_ = word.number;
-    else if (word.text == "pichgoal")
-        goalHeight_ = word.number;
-    else if (word.text == "picscalex")
-        scaleX_ = word.number;
-    else if (word.text == "picscaley")
-        scaleY_ = word.number;
-    else
-        return false;
-    return true;
+    const std::pair<std::string_view, std::int32_t*> numbers[] = {
+        {"picwgoal", &input_.goalWidth},
+        {"pichgoal", &input_.goalHeight},
+        {"picscalex", &input_.scaleX},
+        {"picscaley", &input_.scaleY},
+    };
+    for (const auto& [name, number] : numbers) {
+        if (word.text != name) continue;
+        *number = word.number;
+        return this;
+    }
+    return nullptr;
 }
 
 // What is no digit is passed over.
@@ -114,44 +101,38 @@ void PictureReader::OnText(std::string_view digits, const Group&)
     for (const char c : digits) {
         const int digit = HexDigit(c);
         if (digit < 0) continue;
-        if (pendingDigit_ < 0) {
-            pendingDigit_ = digit;
+        if (input_.pendingDigit < 0) {
+            input_.pendingDigit = digit;
             continue;
         }
-        const char byte = static_cast<char>(pendingDigit_ * 16 + digit);
-        pendingDigit_ = -1;
+        const char byte = static_cast<char>(std::exchange(input_.pendingDigit, -1) * 16 + digit);
         AddBytes({&byte, 1});
     }
 }
 
 void PictureReader::AddBytes(std::string_view bytes)
 {
-    isTooBig_ = isTooBig_ || bytes.size() > kMaxBytes - data_.size();
-    if (!isTooBig_) data_ += bytes;
+    input_.isTooBig = input_.isTooBig || bytes.size() > kMaxBytes - input_.bytes.size();
+    if (!input_.isTooBig) input_.bytes += bytes;
 }
 
 std::optional<Picture> PictureReader::Finish()
 {
-    if (data_.empty() && goalWidth_ == 0 && goalHeight_ == 0) return std::nullopt;
+    std::string& bytes = input_.bytes;
+    if (bytes.empty() && input_.goalWidth == 0 && input_.goalHeight == 0) return std::nullopt;
     Picture picture;
-    Size size;
-    if (data_.starts_with(kPngSignature)) {
-        picture.kind = PictureKind::Png;
-        size = PngSize(data_);
-    } else if (data_.starts_with(kJpegSignature)) {
-        picture.kind = PictureKind::Jpeg;
-        size = JpegSize(data_);
-    }
-    if (!IsDecodable(size) || isTooBig_ || data_.size() > kMaxAllBytes - bytesBefore_) {
-        picture.kind = PictureKind::Placeholder;
-    } else {
+    const bool isPng = bytes.starts_with(kPngSignature);
+    const bool isJpeg = bytes.starts_with(kJpegSignature);
+    const Size size = isPng ? PngSize(bytes) : isJpeg ? JpegSize(bytes) : Size{};
+    if (IsDecodable(size) && !input_.isTooBig && bytes.size() <= kMaxAllBytes - bytesBefore_) {
+        picture.kind = isPng ? PictureKind::Png : PictureKind::Jpeg;
         picture.widthPixels = static_cast<std::int32_t>(size.width);
         picture.heightPixels = static_cast<std::int32_t>(size.height);
-        picture.bytes = std::move(data_);
-        bytesBefore_ += picture.bytes.size();
+        bytesBefore_ += bytes.size();
+        picture.bytes = std::move(bytes);
     }
-    picture.widthTwips = ShownLength(goalWidth_, scaleX_, picture.widthPixels);
-    picture.heightTwips = ShownLength(goalHeight_, scaleY_, picture.heightPixels);
+    picture.widthTwips = ShownLength(input_.goalWidth, input_.scaleX, picture.widthPixels);
+    picture.heightTwips = ShownLength(input_.goalHeight, input_.scaleY, picture.heightPixels);
     return picture;
 }
 

@@ -12,8 +12,8 @@ class PictureReader : public Destination
 public:
     PictureReader() : Destination(Takes::Bytes) {}
 
-    void Start();
-    bool OnWord(const Token& word, Group& group) override;
+    void Start() { input_ = {}; }
+    Destination* OnWord(const Token& word) override;
     void OnText(std::string_view digits, const Group& group) override; // hexadecimal
     void AddBytes(std::string_view bytes);
 
@@ -23,13 +23,15 @@ public:
     std::optional<Picture> Finish();
 
 private:
-    std::string data_;
-    int pendingDigit_ = -1;
-    bool isTooBig_ = false;
-    std::int32_t goalWidth_ = 0; // twips, before scaling
-    std::int32_t goalHeight_ = 0;
-    std::int32_t scaleX_ = 100; // per cent
-    std::int32_t scaleY_ = 100;
+    struct Input
+    {
+        std::string bytes;
+        int pendingDigit = -1;
+        bool isTooBig = false;
+        std::int32_t goalWidth = 0, goalHeight = 0; // twips, before scaling
+        std::int32_t scaleX = 100, scaleY = 100;    // per cent
+    };
+    Input input_;
     std::size_t bytesBefore_ = 0;
 };
 

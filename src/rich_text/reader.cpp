@@ -19,23 +19,6 @@ namespace {
 constexpr std::size_t kMaxSavedGroups = 1000;
 constexpr std::size_t kMaxBodies = 9; // the body, and text boxes within text boxes
 
-// Groups that no reader of the body sees.
-constexpr auto kUnseen = SortedNames({
-    "info",         "title",      "subject",      "author",     "manager",   "company",
-    "operator",     "category",   "keywords",     "comment",    "doccomm",   "hlinkbase",
-    "header",       "headerl",    "headerr",      "headerf",    "footer",    "footerl",
-    "footerr",      "footerf",    "footnote",     "ftnsep",     "ftnsepc",   "ftncn",
-    "aftnsep",      "aftnsepc",   "aftncn",       "annotation", "atnid",     "atnauthor",
-    "atntime",      "atndate",    "atnicn",       "atnref",     "atnparent", "atrfstart",
-    "atrfend",      "bkmkstart",  "bkmkend",      "xe",         "tc",        "tcn",
-    "rxe",          "nonshppict", "nonesttables", "shprslt",    "sn",        "picprop",
-    "blipuid",      "objdata",    "objclass",     "objname",    "objalias",  "objsect",
-    "falt",         "panose",     "fname",        "fontemb",    "listname",  "liststylename",
-    "levelnumbers", "pnseclvl",   "filetbl",      "revtbl",     "rsidtbl",   "generator",
-    "template",     "nextfile",   "private",      "background", "datafield", "formfield",
-    "userprops",    "keycode",
-});
-
 class Reader
 {
 public:
@@ -44,49 +27,237 @@ public:
         group_.destination = &bodies_.emplace_back(content_);
     }
 
-    ReadResult Read();
+    ReadResult Read()
+    {
+        while (!done_ && !tokens_.RanOut() && !content_.budget.IsSpent()) OnToken(tokens_.Next());
+        unsavedDepth_ = 0;
+        while (!IsInDocumentGroup()) CloseGroup();
+        content_.document.blocks = InnermostBody().Finish(group_);
+        if (tokens_.RanOut() && content_.shown == 0) return ReadError::NothingReadable;
+        content_.document.fonts = content_.fonts.Names();
+        return std::move(content_.document);
+    }
 
 private:
-    // Tokens.
-    void OnToken(const Token& token);
+    struct Words; // tables of what the words do
+
     void OnWord(const Token& word);
-    void OnUnicode(const Token& word);
-    void OnSymbol(char symbol);
-    void OnByte(std::int32_t byte);
-    void OnText(std::string_view text);
-    void OnBinary(std::string_view bytes);
-    bool IsSkipped();
+
+    void OnToken(const Token& token)
+    {
+        if (token.kind == TokenKind::GroupStart) return OpenGroup();
+        if (token.kind == TokenKind::GroupEnd) return CloseGroup();
+        if (token.kind == TokenKind::Symbol && token.text == "*" && atGroupStart_) {
+            starred_ = true;
+            return;
+        }
+        if (token.kind == TokenKind::Text) {
+            OnText(token.text);
+        } else if (toSkip_ > 0) { // only there for readers without Unicode
+            --toSkip_;
+        } else if (token.kind == TokenKind::Word || token.kind == TokenKind::Symbol) {
+            OnWord(token);
+        } else if (token.kind == TokenKind::Byte && token.number >= 0) {
+            const char byte = static_cast<char>(token.number);
+            Decode({&byte, 1});
+        } else if (token.kind == TokenKind::Binary && IsIn(picture_)) {
+            picture_.AddBytes(token.text);
+        }
+        atGroupStart_ = false;
+        starred_ = false;
+    }
+
+    void OnText(std::string_view text)
+    {
+        const auto skipped = std::min(static_cast<std::size_t>(toSkip_), text.size());
+        toSkip_ -= static_cast<std::int32_t>(skipped);
+        text.remove_prefix(skipped);
+        if (text.empty()) return;
+        if (group_.destination->takes == Destination::Takes::Bytes)
+            group_.destination->OnText(text, group_);
+        else
+            Decode(text);
+    }
 
     // Groups.
-    void OpenGroup();
-    void CloseGroup();
+
+    void OpenGroup()
+    {
+        decoder_.Reset();
+        toSkip_ = 0;
+        atGroupStart_ = true;
+        starred_ = false;
+        if (saved_.size() >= kMaxSavedGroups) {
+            ++unsavedDepth_;
+            return;
+        }
+        saved_.push_back(group_);
+        group_.ends = nullptr;
+        group_.endsField = false;
+    }
+
+    void CloseGroup()
+    {
+        decoder_.Reset();
+        toSkip_ = 0;
+        atGroupStart_ = false;
+        if (unsavedDepth_ > 0) {
+            --unsavedDepth_;
+            return;
+        }
+        if (IsInDocumentGroup()) { // what follows it is none of the document
+            done_ = true;
+            return;
+        }
+        const bool endsField = group_.endsField;
+        if (group_.ends) group_.ends->OnEnd(group_);
+        if (group_.ends == &picture_) InnermostBody().AddPicture(picture_, group_);
+        if (group_.ends == &InnermostBody()) bodies_.pop_back();
+        group_ = std::move(saved_.back());
+        saved_.pop_back();
+        if (endsField) EndField();
+    }
+
     bool IsInDocumentGroup() const { return saved_.size() <= 1; }
-    bool Enter(Destination& destination);
-    void SkipGroup();
+    bool MayEnter() const { return !IsInDocumentGroup() && unsavedDepth_ == 0; }
 
-    // Text.
-    Encoding CurrentEncoding() const;
-    void Decode(std::string_view bytes);
-    void EmitText(std::string_view text);
+    // Makes the group one of the destination; skips it if that is null, or the group was not saved.
+    // The document's own group can be none: that would lose everything after it.
+    bool Enter(Destination* destination)
+    {
+        if (IsInDocumentGroup()) return false;
+        const bool enters = destination && unsavedDepth_ == 0;
+        if (enters)
+            group_.destination = group_.ends = destination;
+        else
+            tokens_.SkipGroup();
+        return enters;
+    }
 
-    // What a group is, by its first word.
     Body& InnermostBody() { return bodies_.back(); }
     bool IsIn(const Destination& destination) const { return group_.destination == &destination; }
+    bool IsInBody() { return IsIn(InnermostBody()); }
     bool IsInShape() { return IsIn(unseen_) && group_.outside == &InnermostBody(); }
-    void EnterPart(std::string_view word);
-    void EnterUnseen();
-    void LeaveUnseen();
-    void EnterShapeValue();
-    void EnterPicture();
-    void EnterTextBox();
-    void EnterOldList();
-    void EnterLabel();
-    void StartField();
-    void EndField();
-    void EnterFieldInstruction();
-    void StartFieldResult();
 
-    struct Words; // tables of what the words do
+    // Text.
+
+    Encoding CurrentEncoding() const
+    {
+        if (IsIn(content_.fonts)) return content_.fonts.EncodingOfNames();
+        Encoding encoding = content_.fonts.EncodingOf(group_.character.font);
+        encoding.isLabelTemplate = group_.destination->takes == Destination::Takes::LabelTemplate;
+        return encoding;
+    }
+
+    void Decode(std::string_view bytes)
+    {
+        if (group_.destination->takes == Destination::Takes::Nothing) return;
+        EmitText(decoder_.Bytes(bytes, CurrentEncoding()));
+    }
+
+    void EmitText(std::string_view text)
+    {
+        if (group_.destination->takes != Destination::Takes::Bytes)
+            group_.destination->OnText(text, group_);
+    }
+
+    void PutUnicode(const Token& word)
+    {
+        if (!word.hasNumber) return;
+        EmitText(decoder_.Unicode(word.number, CurrentEncoding()));
+        toSkip_ = group_.unicodeSkip;
+    }
+
+    // Parts of the body.
+
+    // No font or colour is a paragraph: the brace that ends their table is missing.
+    void StartParagraph()
+    {
+        group_.paragraph = {};
+        if (!IsIn(content_.fonts) && !IsIn(content_.colours)) return;
+        group_.destination = &InnermostBody();
+        group_.ends = nullptr;
+    }
+
+    void EnterLabel()
+    {
+        ShortText& label = InnermostBody().storedLabel;
+        if (Enter(IsInBody() ? &label : nullptr)) label.value.clear();
+    }
+
+    // The definition is of the paragraph, which the group around it belongs to.
+    void EnterOldList()
+    {
+        OldList* list = MayEnter() && IsInBody() ? content_.lists.AddOldList() : nullptr;
+        if (Enter(list)) saved_.back().paragraph.oldList = group_.paragraph.oldList = list;
+    }
+
+    // An object, a shape: of what is in it, only the parts that say so are seen.
+    void EnterUnseen()
+    {
+        if (IsIn(unseen_)) return;
+        const bool isLabel = IsIn(InnermostBody().storedLabel);
+        const bool isInstruction = std::ranges::any_of(
+            fields_, [this](const Field& field) { return IsIn(field.instruction); });
+        Destination* outside = group_.destination;
+        if (Enter(isLabel || isInstruction ? nullptr : &unseen_)) group_.outside = outside;
+    }
+
+    void LeaveUnseen()
+    {
+        if (IsIn(unseen_)) group_.destination = group_.outside;
+    }
+
+    void EnterTextBox()
+    {
+        if (IsInShape()) LeaveUnseen();
+        Body& around = InnermostBody();
+        if (!MayEnter() || !IsIn(around) || group_.ends == &around || bodies_.size() >= kMaxBodies)
+            return;
+        group_.paragraph = {};
+        Enter(&bodies_.emplace_back(content_, &around));
+    }
+
+    void EnterPicture()
+    {
+        if (Enter(IsInBody() || IsIn(shapeValue_) ? &picture_ : nullptr)) picture_.Start();
+    }
+
+    // Fields: what the instruction is, the result shows.
+
+    void StartField()
+    {
+        if (!MayEnter() || group_.endsField) return;
+        fields_.emplace_back().shownBefore = content_.shown;
+        group_.endsField = true;
+    }
+
+    void StartFieldResult()
+    {
+        if (fields_.empty() || !IsInBody()) return;
+        const std::int32_t link = fields_.back().Link(content_.document);
+        if (link >= 0) group_.link = link;
+    }
+
+    // A symbol's field need not store what it shows.
+    void EndField()
+    {
+        const Field& field = fields_.back();
+        const bool mayShow = field.shownBefore == content_.shown && IsInBody();
+        const auto symbol = mayShow ? field.Symbol() : std::nullopt;
+        fields_.pop_back();
+        if (!symbol) return;
+        const char byte = static_cast<char>(symbol->code & 0xFF);
+        const bool isByte =
+            symbol->code < 0x100 || (symbol->code >= 0xF000 && symbol->code < 0xF100);
+        const Encoding current = CurrentEncoding();
+        const Glyphs glyphs =
+            symbol->font.empty() ? current.glyphs : GlyphsOfFontName(symbol->font);
+        if (glyphs == Glyphs::Text && (symbol->isUnicode || !isByte))
+            EmitText(decoder_.CodePoint(static_cast<char32_t>(symbol->code), current));
+        else
+            EmitText(decoder_.Bytes({&byte, 1}, {glyphs, kWesternPage}));
+    }
 
     Content content_;
     std::deque<Body> bodies_;  // never empty; the innermost text box last
@@ -110,62 +281,97 @@ struct Reader::Words
 {
     template <auto Action> static void Do(Reader& r, const Token&) { (r.*Action)(); }
 
-    // Words that say what their group is, and so may follow \*.
-    static constexpr auto kGroups = WordTable<Reader>({
-        {"fonttbl", [](Reader& r, const Token&) { r.Enter(r.content_.fonts); }},
-        {"colortbl", [](Reader& r, const Token&) { r.Enter(r.content_.colours); }},
-        {"stylesheet", [](Reader& r, const Token&) { r.Enter(r.content_.styles); }},
-        {"listtable", [](Reader& r, const Token&) { r.Enter(r.content_.lists.table); }},
-        {"listoverridetable", [](Reader& r, const Token&) { r.Enter(r.content_.lists.overrides); }},
-        {"listtext", Do<&Reader::EnterLabel>},
-        {"pntext", Do<&Reader::EnterLabel>},
-        {"pn", Do<&Reader::EnterOldList>},
-        {"nesttableprops",
-         [](Reader& r, const Token&) { r.group_.inNestedTableProperties = true; }},
-        {"field", Do<&Reader::StartField>},
-        {"fldinst", Do<&Reader::EnterFieldInstruction>},
-        {"fldrslt", Do<&Reader::StartFieldResult>},
-        {"pict", Do<&Reader::EnterPicture>},
-        {"shppict", [](Reader&, const Token&) {}},
-        {"object", Do<&Reader::EnterUnseen>},
-        {"result", Do<&Reader::LeaveUnseen>},
-        {"shp", Do<&Reader::EnterUnseen>},
-        {"shpgrp", Do<&Reader::EnterUnseen>},
-        {"shpinst", Do<&Reader::EnterUnseen>},
-        {"shptxt", Do<&Reader::EnterTextBox>},
-        {"do", Do<&Reader::EnterUnseen>},
-        {"dptxbxtext", Do<&Reader::EnterTextBox>},
-        {"upr", Do<&Reader::EnterUnseen>},
-        {"ud", Do<&Reader::LeaveUnseen>},
-    });
+    template <auto End> static void InBody(Reader& r, const Token&)
+    {
+        if (!r.IsInBody()) return;
+        r.decoder_.Reset(); // no character goes on past a paragraph's end
+        (r.InnermostBody().*End)(r.group_);
+    }
 
     template <char32_t Character> static void Put(Reader& r, const Token&)
     {
         r.EmitText(r.decoder_.Character(Character));
     }
+
     template <std::int32_t Page> static void SetCharacterSet(Reader& r, const Token&)
     {
-        r.content_.fonts.SetCharacterSet(Page);
+        r.content_.fonts.characterSetPage = Page;
     }
 
-    static constexpr auto kOthers = WordTable<Reader>({
+    template <auto Member> static void Paint(Reader& r, const Token& word)
+    {
+        r.group_.character.*Member = r.content_.colours.Find(word.number);
+    }
+
+    // Words that say what their group is, and so may follow \*.
+    static constexpr WordTable<Reader, 64> kGroups{
+        {"fonttbl", [](Reader& r, const Token&) { r.Enter(&r.content_.fonts); }},
+        {"colortbl", [](Reader& r, const Token&) { r.Enter(&r.content_.colours); }},
+        {"stylesheet", [](Reader& r, const Token&) { r.Enter(&r.content_.styles); }},
+        {"listtable", [](Reader& r, const Token&) { r.Enter(&r.content_.lists.table); }},
+        {"listoverridetable",
+         [](Reader& r, const Token&) { r.Enter(&r.content_.lists.overrides); }},
+        {"listtext pntext", Do<&Reader::EnterLabel>},
+        {"pn", Do<&Reader::EnterOldList>},
+        {"nesttableprops",
+         [](Reader& r, const Token&) { r.group_.inNestedTableProperties = true; }},
+        {"field", Do<&Reader::StartField>},
+        {"fldinst",
+         [](Reader& r, const Token&) {
+             r.Enter(r.fields_.empty() ? nullptr : &r.fields_.back().instruction);
+         }},
+        {"fldrslt", Do<&Reader::StartFieldResult>},
+        {"pict", Do<&Reader::EnterPicture>},
+        {"shppict", [](Reader&, const Token&) {}},
+        {"object shp shpgrp shpinst do upr", Do<&Reader::EnterUnseen>},
+        {"result ud", Do<&Reader::LeaveUnseen>},
+        {"shptxt dptxbxtext", Do<&Reader::EnterTextBox>},
+    };
+
+    static constexpr WordTable<Reader, 256> kOthers{
+        // Groups that no reader of the body sees.
+        {"info title subject author manager company operator category keywords comment doccomm "
+         "hlinkbase header headerl headerr headerf footer footerl footerr footerf footnote ftnsep "
+         "ftnsepc ftncn aftnsep aftnsepc aftncn annotation atnid atnauthor atntime atndate atnicn "
+         "atnref atnparent atrfstart atrfend bkmkstart bkmkend xe tc tcn rxe nonshppict "
+         "nonesttables shprslt sn picprop blipuid objdata objclass objname objalias objsect falt "
+         "panose fname fontemb listname liststylename levelnumbers pnseclvl filetbl revtbl "
+         "rsidtbl generator template nextfile private background datafield formfield userprops "
+         "keycode leveltext pntxtb pntxta",
+         [](Reader& r, const Token&) { r.Enter(nullptr); }},
+        {"sv", // it may be the picture that the shape shows
+         [](Reader& r, const Token&) { r.Enter(r.IsInShape() ? &r.shapeValue_ : nullptr); }},
+
         {"ansi", SetCharacterSet<1252>},
         {"mac", SetCharacterSet<10000>},
         {"pc", SetCharacterSet<437>},
         {"pca", SetCharacterSet<850>},
         {"ansicpg",
-         [](Reader& r, const Token& word) { r.content_.fonts.SetCodePage(word.number); }},
-        {"deff",
-         [](Reader& r, const Token& word) { r.content_.fonts.SetDefaultFont(word.number); }},
+         [](Reader& r, const Token& word) { r.content_.fonts.codePage = KnownPage(word.number); }},
+        {"deff", [](Reader& r, const Token& word) { r.content_.fonts.defaultFont = word.number; }},
 
-        {"leveltext", [](Reader& r, const Token& word) { r.EnterPart(word.text); }},
-        {"pntxtb", [](Reader& r, const Token& word) { r.EnterPart(word.text); }},
-        {"pntxta", [](Reader& r, const Token& word) { r.EnterPart(word.text); }},
-        {"sv", Do<&Reader::EnterShapeValue>},
-        {"u", [](Reader& r, const Token& word) { r.OnUnicode(word); }},
+        {"pard", Do<&Reader::StartParagraph>},
+        {"par", InBody<&Body::EndParagraph>},
+        {"page sect column", InBody<&Body::EndPendingParagraph>},
+        {"cell", InBody<&Body::EndCell>},
+        {"row", InBody<&Body::EndRow>},
+        {"nestcell", InBody<&Body::EndNestedCell>},
+        {"nestrow", InBody<&Body::EndNestedRow>},
+
+        {"cf", Paint<&CharacterState::colour>},
+        {"cb highlight chcbpat", Paint<&CharacterState::background>},
+        {"clcbpat",
+         [](Reader& r, const Token& word) {
+             r.InnermostBody().Definition(r.group_).next.background =
+                 r.content_.colours.Find(word.number);
+         }},
+
+        {"u", [](Reader& r, const Token& word) { r.PutUnicode(word); }},
         {"tab", Put<'\t'>},
-        {"line", Put<'\n'>},
-        {"lbr", Put<'\n'>},
+        {"line lbr", Put<'\n'>},
+        {"~", Put<0x00A0>},
+        {"-", Put<0x00AD>},
+        {"_", Put<0x2011>},
         {"emdash", Put<0x2014>},
         {"endash", Put<0x2013>},
         {"emspace", Put<0x2003>},
@@ -182,335 +388,25 @@ struct Reader::Words
         {"zwnj", Put<0x200C>},
         {"ltrmark", Put<0x200E>},
         {"rtlmark", Put<0x200F>},
-    });
+        // Some writers escape the second byte of a two-byte character like this.
+        {"\\ { }", [](Reader& r, const Token& symbol) { r.Decode(symbol.text); }},
+    };
 };
-
-ReadResult Reader::Read()
-{
-    while (!done_ && !content_.budget.IsSpent()) OnToken(tokens_.Next());
-    const bool cutOff = tokens_.RanOut();
-    unsavedDepth_ = 0;
-    while (!IsInDocumentGroup()) CloseGroup();
-    content_.document.blocks = InnermostBody().Finish(group_);
-    if (cutOff && content_.shown == 0) return ReadError::NothingReadable;
-    content_.document.fonts = content_.fonts.Names();
-    return std::move(content_.document);
-}
-
-void Reader::OnToken(const Token& token)
-{
-    switch (token.kind) {
-    case TokenKind::GroupStart:
-        OpenGroup();
-        return;
-    case TokenKind::GroupEnd:
-        CloseGroup();
-        return;
-    case TokenKind::Word:
-        OnWord(token);
-        break;
-    case TokenKind::Symbol:
-        OnSymbol(token.text.front());
-        return;
-    case TokenKind::Byte:
-        OnByte(token.number);
-        break;
-    case TokenKind::Text:
-        OnText(token.text);
-        break;
-    case TokenKind::Binary:
-        OnBinary(token.text);
-        break;
-    case TokenKind::End:
-        done_ = true;
-        break;
-    }
-    atGroupStart_ = false;
-    starred_ = false;
-}
-
-void Reader::OpenGroup()
-{
-    decoder_.Reset();
-    toSkip_ = 0;
-    atGroupStart_ = true;
-    starred_ = false;
-    if (saved_.size() >= kMaxSavedGroups) {
-        ++unsavedDepth_;
-        return;
-    }
-    saved_.push_back(group_);
-    group_.ends = nullptr;
-    group_.endsField = false;
-}
-
-void Reader::CloseGroup()
-{
-    decoder_.Reset();
-    toSkip_ = 0;
-    atGroupStart_ = false;
-    if (unsavedDepth_ > 0) {
-        --unsavedDepth_;
-        return;
-    }
-    if (IsInDocumentGroup()) { // what follows it is none of the document
-        done_ = true;
-        return;
-    }
-    const bool endsField = group_.endsField;
-    if (group_.ends) group_.ends->OnEnd(group_);
-    if (group_.ends == &picture_) InnermostBody().AddPicture(picture_, group_);
-    if (group_.ends == &InnermostBody()) bodies_.pop_back();
-    group_ = std::move(saved_.back());
-    saved_.pop_back();
-    if (endsField) EndField();
-}
-
-// Counts a token off that is only there for readers without Unicode.
-bool Reader::IsSkipped()
-{
-    if (toSkip_ == 0) return false;
-    --toSkip_;
-    return true;
-}
 
 // A destination's own words come first: a list in its table is none of a paragraph.
 void Reader::OnWord(const Token& word)
 {
-    if (IsSkipped()) return;
-    if (starred_) {
-        if (!Apply(Words::kGroups, *this, word)) tokens_.SkipGroup();
-    } else if (group_.destination->OnWord(word, group_)) {
-        if (IsIn(InnermostBody())) decoder_.Reset(); // no character goes on past a paragraph's end
-    } else if (ApplyFormatWord(word, group_, content_.colours)) {
-        // No font or colour is a paragraph: the brace that ends their table is missing.
-        const bool isUnclosed = IsIn(content_.fonts) || IsIn(content_.colours);
-        if (!isUnclosed || word.text != "pard") return;
-        group_.destination = &InnermostBody();
-        group_.ends = nullptr;
-    } else if (Apply(Words::kOthers, *this, word) || Apply(Words::kGroups, *this, word)) {
-        return;
-    } else if (std::ranges::binary_search(kUnseen, word.text)) {
-        SkipGroup();
-    } else {
-        InnermostBody().OnRowWord(word, group_);
-    }
-}
-
-void Reader::OnSymbol(char symbol)
-{
-    if (symbol == '*' && atGroupStart_) {
-        starred_ = true;
+    if (starred_ && word.kind == TokenKind::Word) {
+        if (!Words::kGroups.Apply(*this, word)) tokens_.SkipGroup();
         return;
     }
-    atGroupStart_ = false;
-    starred_ = false;
-    if (IsSkipped()) return;
-    switch (symbol) {
-    case '~':
-        EmitText(decoder_.Character(0x00A0));
-        break;
-    case '-':
-        EmitText(decoder_.Character(0x00AD));
-        break;
-    case '_':
-        EmitText(decoder_.Character(0x2011));
-        break;
-    case '\\':
-    case '{':
-    case '}':
-        // Some writers escape the second byte of a two-byte character like this.
-        Decode({&symbol, 1});
-        break;
-    default:
-        break;
+    if (Destination* destination = group_.destination->OnWord(word)) {
+        if (!IsIn(*destination)) Enter(destination);
+        return;
     }
-}
-
-void Reader::OnByte(std::int32_t byte)
-{
-    if (IsSkipped() || byte < 0) return;
-    const char raw = static_cast<char>(byte);
-    Decode({&raw, 1});
-}
-
-void Reader::OnText(std::string_view text)
-{
-    const auto skipped = std::min(static_cast<std::size_t>(toSkip_), text.size());
-    toSkip_ -= static_cast<std::int32_t>(skipped);
-    text.remove_prefix(skipped);
-    if (text.empty()) return;
-    if (group_.destination->takes == Destination::Takes::Bytes)
-        group_.destination->OnText(text, group_);
-    else
-        Decode(text);
-}
-
-void Reader::OnBinary(std::string_view bytes)
-{
-    if (IsSkipped()) return;
-    if (IsIn(picture_)) picture_.AddBytes(bytes);
-}
-
-void Reader::OnUnicode(const Token& word)
-{
-    if (!word.hasNumber) return;
-    EmitText(decoder_.Unicode(word.number, CurrentEncoding()));
-    toSkip_ = group_.unicodeSkip;
-}
-
-// Text.
-
-Encoding Reader::CurrentEncoding() const
-{
-    if (IsIn(content_.fonts)) return content_.fonts.EncodingOfNames();
-    Encoding encoding = content_.fonts.EncodingOf(group_.character.font);
-    encoding.isLabelTemplate = group_.destination->takes == Destination::Takes::LabelTemplate;
-    return encoding;
-}
-
-void Reader::Decode(std::string_view bytes)
-{
-    if (group_.destination->takes == Destination::Takes::Nothing) return;
-    EmitText(decoder_.Bytes(bytes, CurrentEncoding()));
-}
-
-void Reader::EmitText(std::string_view text)
-{
-    if (!text.empty() && group_.destination->takes != Destination::Takes::Bytes)
-        group_.destination->OnText(text, group_);
-}
-
-// Groups. The document's own can be no destination: that would lose everything after it.
-
-bool Reader::Enter(Destination& destination)
-{
-    if (IsInDocumentGroup()) return false;
-    if (unsavedDepth_ > 0) {
-        tokens_.SkipGroup();
-        return false;
-    }
-    group_.destination = group_.ends = &destination;
-    return true;
-}
-
-void Reader::SkipGroup()
-{
-    if (!IsInDocumentGroup()) tokens_.SkipGroup();
-}
-
-void Reader::EnterPart(std::string_view word)
-{
-    if (Destination* part = group_.destination->PartOf(word))
-        Enter(*part);
-    else
-        SkipGroup();
-}
-
-void Reader::EnterLabel()
-{
-    if (!IsIn(InnermostBody()))
-        SkipGroup();
-    else if (Enter(InnermostBody().storedLabel))
-        InnermostBody().storedLabel.value.clear();
-}
-
-void Reader::EnterOldList()
-{
-    const bool isUsable = !IsInDocumentGroup() && IsIn(InnermostBody()) && unsavedDepth_ == 0;
-    OldList* list = isUsable ? content_.lists.AddOldList() : nullptr;
-    if (!list) return SkipGroup();
-    // The definition is of the paragraph, which the group around it belongs to.
-    saved_.back().oldList = group_.oldList = list;
-    Enter(*list);
-}
-
-// An object, a shape: of what is in it, only the parts that say so are seen.
-void Reader::EnterUnseen()
-{
-    if (IsIn(unseen_)) return;
-    const bool isLabel = IsIn(InnermostBody().storedLabel);
-    const bool isInstruction = std::ranges::any_of(
-        fields_, [this](const Field& field) { return IsIn(field.instruction); });
-    Destination* outside = group_.destination;
-    if (isLabel || isInstruction)
-        SkipGroup();
-    else if (Enter(unseen_))
-        group_.outside = outside;
-}
-
-void Reader::LeaveUnseen()
-{
-    if (IsIn(unseen_)) group_.destination = group_.outside;
-}
-
-// It may be the picture that the shape shows.
-void Reader::EnterShapeValue()
-{
-    if (IsInShape())
-        Enter(shapeValue_);
-    else
-        SkipGroup();
-}
-
-void Reader::EnterTextBox()
-{
-    if (IsInShape()) LeaveUnseen();
-    Body& around = InnermostBody();
-    const bool isUsable = !IsInDocumentGroup() && unsavedDepth_ == 0 && bodies_.size() < kMaxBodies;
-    if (!IsIn(around) || !isUsable || group_.ends == &around) return;
-    ApplyFormatWord({TokenKind::Word, "pard"}, group_, content_.colours);
-    Enter(bodies_.emplace_back(content_, &around));
-}
-
-void Reader::EnterPicture()
-{
-    if (!IsIn(InnermostBody()) && !IsIn(shapeValue_))
-        SkipGroup();
-    else if (Enter(picture_))
-        picture_.Start();
-}
-
-// Fields: what the instruction is, the result shows.
-
-void Reader::StartField()
-{
-    if (unsavedDepth_ > 0 || group_.endsField || IsInDocumentGroup()) return;
-    fields_.emplace_back().shownBefore = content_.shown;
-    group_.endsField = true;
-}
-
-void Reader::EnterFieldInstruction()
-{
-    if (fields_.empty())
-        SkipGroup();
-    else
-        Enter(fields_.back().instruction);
-}
-
-void Reader::StartFieldResult()
-{
-    if (fields_.empty() || !IsIn(InnermostBody())) return;
-    const std::int32_t link = fields_.back().Link(content_.document);
-    if (link >= 0) group_.link = link;
-}
-
-// A symbol's field need not store what it shows.
-void Reader::EndField()
-{
-    const Field& field = fields_.back();
-    const bool mayShow = field.shownBefore == content_.shown && IsIn(InnermostBody());
-    const auto symbol = mayShow ? field.Symbol() : std::nullopt;
-    fields_.pop_back();
-    if (!symbol) return;
-    const char byte = static_cast<char>(symbol->code & 0xFF);
-    const bool isByte = symbol->code < 0x100 || (symbol->code >= 0xF000 && symbol->code < 0xF100);
-    const Encoding current = CurrentEncoding();
-    const Glyphs glyphs = symbol->font.empty() ? current.glyphs : GlyphsOfFontName(symbol->font);
-    if (glyphs == Glyphs::Text && (symbol->isUnicode || !isByte))
-        EmitText(decoder_.CodePoint(static_cast<char32_t>(symbol->code), current));
-    else
-        EmitText(decoder_.Bytes({&byte, 1}, {glyphs, kWesternPage}));
+    const bool isKnown = ApplyFormatWord(word, group_) || Words::kOthers.Apply(*this, word) ||
+                         Words::kGroups.Apply(*this, word);
+    if (!isKnown) InnermostBody().Definition(group_).OnWord(word);
 }
 
 // The document from its first brace on; empty if the bytes are none.

@@ -1,45 +1,59 @@
-// Tables of control words, sorted by the compiler: one row a word, with what it does.
+// Tables of control words, made by the compiler: one row for the words that do the same.
 #pragma once
 
 #include "rich_text/tokens.h"
 
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <string_view>
-#include <utility>
 
 namespace selvane::rich_text {
 
 template <typename Target> struct WordRow
 {
-    std::string_view name;
+    std::string_view names; // with a blank between two
     void (*apply)(Target& target, const Token& word);
 };
 
-template <typename Target, std::size_t N>
-consteval std::array<WordRow<Target>, N> WordTable(WordRow<Target> (&&rows)[N])
+// A hash table, as most words of a document are looked up in several. Some slots must stay free: a
+// table that is too full does not compile.
+template <typename Target, std::size_t Slots> class WordTable
 {
-    std::array<WordRow<Target>, N> table = std::to_array(std::move(rows));
-    std::ranges::sort(table, {}, &WordRow<Target>::name);
-    return table;
-}
+public:
+    consteval WordTable(std::initializer_list<WordRow<Target>> rows)
+    {
+        for (WordRow<Target> row : rows) {
+            while (!row.names.empty()) {
+                const std::string_view name = row.names.substr(0, row.names.find(' '));
+                slots_[PlaceOf(name)] = {name, row.apply};
+                row.names.remove_prefix(std::min(name.size() + 1, row.names.size()));
+            }
+        }
+    }
 
-template <std::size_t N>
-consteval std::array<std::string_view, N> SortedNames(std::string_view (&&names)[N])
-{
-    std::array<std::string_view, N> sorted = std::to_array(std::move(names));
-    std::ranges::sort(sorted);
-    return sorted;
-}
+    // False: the table does not have the word.
+    bool Apply(Target& target, const Token& word) const
+    {
+        const WordRow<Target>& found = slots_[PlaceOf(word.text)];
+        if (found.names.empty()) return false;
+        found.apply(target, word);
+        return true;
+    }
 
-// False: the table does not have the word.
-template <typename Target, std::size_t N>
-bool Apply(const std::array<WordRow<Target>, N>& table, Target& target, const Token& word)
-{
-    const auto row = std::ranges::lower_bound(table, word.text, {}, &WordRow<Target>::name);
-    if (row == table.end() || row->name != word.text) return false;
-    row->apply(target, word);
-    return true;
-}
+private:
+    // Where the name stands, or where it would.
+    constexpr std::size_t PlaceOf(std::string_view name) const
+    {
+        std::size_t place = 0;
+        for (const char c : name) place = place * 31 + static_cast<unsigned char>(c);
+        place %= Slots;
+        while (!slots_[place].names.empty() && slots_[place].names != name)
+            place = (place + 1) % Slots;
+        return place;
+    }
+
+    std::array<WordRow<Target>, Slots> slots_{};
+};
 
 } // namespace selvane::rich_text
