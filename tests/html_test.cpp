@@ -1,4 +1,5 @@
-// Documents as HTML: they look as they should, and nothing in them gets out of its text.
+// Documents as HTML: nothing in them gets out of its text. How they look stands in
+// rich_text/html.txt.
 #include "markup.h"
 #include "rich_text/html.h"
 #include "rich_text/reader.h"
@@ -76,78 +77,6 @@ TEST(Html, LinksLeadWhereTheRuleSaysAndToNoScript)
     const auto none = [](std::string_view) { return HtmlLink{}; };
     EXPECT_EQ(ToHtml(DocumentOf(Link("https://a.example.org")), none).find("<a"),
               std::string::npos);
-}
-
-TEST(Html, FormatsAreStylesInPixels)
-{
-    const struct
-    {
-        const char *body, *part;
-    } cases[] = {
-        {"\\fs20 a", "<span style=\"font-size:13px;\">a</span>"},
-        {"\\b\\i\\ul\\cf1 a", "font-weight:bold;font-style:italic;text-decoration:underline;"
-                              "color:#c80010;"},
-        {"\\strike a", "text-decoration:line-through;"},
-        {"\\highlight1 a", "background-color:#c80010;"},
-        {"\\fs36\\super a", "font-size:16px;vertical-align:super;line-height:0;"},
-        {"\\fs24\\dn6 a", "position:relative;top:4px;"},
-        {"\\sb60\\sa150\\li300\\ri45\\fi-150 a", "<p style=\"margin:4px 3px 10px 20px;"},
-        {"\\li300\\fi-150 a", "text-indent:-10px;"},
-        {"\\qc a", "text-align:center;"},
-        {"\\fs24\\sl-300 a", "line-height:20px;"},
-        {"\\fs24\\sl200 a", "line-height:23px;"}, // a line of 16 pixels is higher than that
-        {"\\fs24\\sl600 a", "line-height:40px;"},
-        {"\\sl480\\slmult1 a", "line-height:46px;"},
-        {"\\fs20\\sl240\\slmult1 a", "line-height:19px;"},
-        {"\\rtlpar a", " dir=\"rtl\""},
-        {"\\outlinelevel1 a", "<h2 style="},
-        {"a\\line b", "a</span><br><span"},
-        {"\\par", "<br></p>"},
-        {"a\\tab b", "a</span>\t<span"},
-        {"\\tx1500 a\\tab b",
-         "<span style=\"display:inline-block;min-width:100px;text-indent:0;\">"},
-        {"{\\listtext 1.\\tab}\\ls1 a", "<div role=\"list\"><p style=\"margin:0px 0px 0px 24px;"},
-        {"{\\listtext 1.\\tab}\\ls1 a\\par\\pard b", "</p></div><p"},
-    };
-    for (const auto& c : cases)
-        EXPECT_NE(Html(c.body).find(c.part), std::string::npos) << c.body << '\n' << Html(c.body);
-}
-
-TEST(Html, TablesKeepTheirGrid)
-{
-    const std::string html =
-        Html("\\trowd\\trhdr\\clmgf\\cellx1500\\clmrg\\cellx3000\\clvmgf\\cellx4500\\intbl "
-             "a\\cell\\cell c\\cell\\row\\trowd\\clcbpat1\\clbrdrt\\brdrs\\cellx1500\\cellx3000"
-             "\\clvmrg\\cellx4500\\intbl d\\cell e\\cell\\cell\\row");
-    EXPECT_NE(html.find("<table style=\"border-collapse:collapse;table-layout:fixed;width:300px;\">"
-                        "<colgroup><col style=\"width:33.33%;\">"),
-              std::string::npos)
-        << html;
-    const Markup markup = ReadMarkup(html);
-    EXPECT_EQ(markup.text, "acde");
-    EXPECT_EQ(std::ranges::count(markup.tags, "th"), 2);
-    EXPECT_EQ(std::ranges::count(markup.tags, "td"), 2);
-    EXPECT_NE(html.find(" colspan=\"2\">"), std::string::npos);
-    EXPECT_NE(html.find(" rowspan=\"2\">"), std::string::npos);
-    EXPECT_NE(html.find("border:1px solid #808080;background-color:#c80010;"), std::string::npos);
-}
-
-TEST(Html, PicturesAreDataOfTwoKindsOnly)
-{
-    const std::string png = "89504e470d0a1a0a0000000d49484452 0000000300000001 0806000000";
-    for (const auto& [more, end] : {std::pair{"", "AAA="}, {"00", "AAAA"}, {"0000", "AAAAAA=="}})
-        EXPECT_NE(
-            Html("{\\pict\\pngblip\\picwgoal150\\pichgoal75 " + png + more + "}")
-                .find("<img alt=\"\" style=\"max-width:100%;width:10px;aspect-ratio:10 / 5;\" "
-                      "src=\"data:image/png;base64,iVBORw0KGgoAAAANSUhEUgAAAAMAAAABCAYA" +
-                      std::string(end) + "\">"),
-            std::string::npos);
-    for (const char* other : {"3c7376673e", "47494638396101000100", "00", ""}) {
-        const std::string html =
-            Html("{\\pict\\picwgoal150\\pichgoal75 " + std::string(other) + "}");
-        EXPECT_EQ(html.find("<img"), std::string::npos) << other;
-        EXPECT_NE(html.find("width:10px;height:5px;background-color:#f0f0f0;"), std::string::npos);
-    }
 }
 
 TEST(Html, IsNoLongerThanAPageCanHold)
