@@ -312,6 +312,8 @@ TEST(RichTextLimits, ReadingStopsAndKeepsWhatItHas)
     const Document many = ReadBody(Repeat("\\b a\\b0 c", 1'000'000) + "{\\pict\\picwgoal9}");
     EXPECT_EQ(Paragraphs(many.blocks).at(0)->runs.size(), 1'000'000u);
     EXPECT_EQ(PlainText(many.blocks).size(), 2'000'001u);
+    const Document pictures = ReadBody(Repeat("{\\pict\\picwgoal9}", 65'600));
+    EXPECT_EQ(pictures.pictures.size(), 65'536u);
     std::string fonts = "{\\fonttbl";
     for (int i = 0; i < 70'000; ++i) fonts += "{\\f" + std::to_string(i) + " A;}";
     EXPECT_EQ(ReadBody(fonts + "}x").fonts.size(), 65'536u);
