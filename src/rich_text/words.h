@@ -16,8 +16,8 @@ template <typename Target> struct WordRow
     void (*apply)(Target& target, const Token& word);
 };
 
-// A hash table, as most words of a document are looked up in several. Some slots must stay free: a
-// table that is too full does not compile.
+// A hash table, as most words of a document are looked up in several. A table without a free slot
+// does not compile.
 template <typename Target, std::size_t Slots> class WordTable
 {
 public:
@@ -30,6 +30,7 @@ public:
                 row.names.remove_prefix(std::min(name.size() + 1, row.names.size()));
             }
         }
+        static_cast<void>(PlaceOf("")); // ends only if there is a free slot
     }
 
     // False: the table does not have the word.
