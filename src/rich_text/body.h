@@ -45,7 +45,7 @@ public:
 
     void OnText(std::string_view text, const Group& group) override;
     void OnEnd(const Group& group) override;
-    void AddPicture(PictureReader& picture, const Group& group);
+    void AddPicture(PictureReader& reader, const Group& group);
 
     // What ends a paragraph, even an empty one, a paragraph if one has begun, a cell or a row.
     void EndParagraph(const Group& group);

@@ -19,8 +19,8 @@ public:
     Destination* OnWord(const Token& word) override;
     void OnText(std::string_view text, const Group& group) override; // a semicolon ends a name
 
-    // What bytes in a font mean; below 0: in the document's own font.
-    Encoding EncodingOf(std::int32_t font) const;
+    // What bytes in the font of a number mean; below 0: in the document's own font.
+    Encoding EncodingOf(std::int32_t number) const;
     Encoding EncodingOfNames() const { return {Glyphs::Text, PageOf(current_)}; }
 
     std::map<std::int32_t, std::string> Names() const;

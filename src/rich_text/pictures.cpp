@@ -10,7 +10,6 @@ namespace {
 constexpr std::string_view kPngSignature = "\x89PNG\r\n\x1A\n";
 constexpr std::string_view kJpegSignature = "\xFF\xD8\xFF";
 constexpr std::size_t kMaxBytes = std::size_t{16} << 20;
-constexpr std::size_t kMaxAllBytes = std::size_t{64} << 20;
 constexpr std::int32_t kMaxSide = 8192;  // pixels
 constexpr std::int32_t kMaxScale = 1000; // per cent
 
@@ -124,11 +123,10 @@ std::optional<Picture> PictureReader::Finish()
     const bool isPng = bytes.starts_with(kPngSignature);
     const bool isJpeg = bytes.starts_with(kJpegSignature);
     const Size size = isPng ? PngSize(bytes) : isJpeg ? JpegSize(bytes) : Size{};
-    if (IsDecodable(size) && !input_.isTooBig && bytes.size() <= kMaxAllBytes - bytesBefore_) {
+    if (IsDecodable(size) && !input_.isTooBig) {
         picture.kind = isPng ? PictureKind::Png : PictureKind::Jpeg;
         picture.widthPixels = static_cast<std::int32_t>(size.width);
         picture.heightPixels = static_cast<std::int32_t>(size.height);
-        bytesBefore_ += bytes.size();
         picture.bytes = std::move(bytes);
     }
     picture.widthTwips = ShownLength(input_.goalWidth, input_.scaleX, picture.widthPixels);

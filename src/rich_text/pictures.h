@@ -17,9 +17,8 @@ public:
     void OnText(std::string_view digits, const Group& group) override; // hexadecimal
     void AddBytes(std::string_view bytes);
 
-    // The picture, a placeholder if the data are neither PNG nor JPEG, are over a limit (bytes:
-    // of this picture and of those before it), or claim to be too large to decode; none if there
-    // is nothing to show.
+    // The picture, a placeholder if the data are neither PNG nor JPEG, are over 16 MB, or claim to
+    // be too large to decode; none if there is nothing to show.
     std::optional<Picture> Finish();
 
 private:
@@ -32,7 +31,6 @@ private:
         std::int32_t scaleX = 100, scaleY = 100;    // per cent
     };
     Input input_;
-    std::size_t bytesBefore_ = 0;
 };
 
 } // namespace selvane::rich_text

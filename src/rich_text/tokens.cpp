@@ -70,7 +70,8 @@ Token Tokens::HexByte()
     ++at_;
     const std::string_view digits = bytes_.substr(at_, 2);
     std::uint8_t byte = 0;
-    const auto end = std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16).ptr;
+    const char* const end =
+        std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16).ptr;
     const auto read = static_cast<std::size_t>(end - digits.data());
     at_ += read;
     return {TokenKind::Byte, {}, true, read == 2 ? byte : -1};
