@@ -35,8 +35,8 @@ void TextDecoder::Reset()
 std::string_view TextDecoder::Bytes(std::string_view bytes, const Encoding& encoding)
 {
     const bool mayBePlain = encoding.glyphs == Glyphs::Text && !decoder_.IsPending();
-    const auto length = std::ranges::find_if_not(bytes, IsPlain) - bytes.begin();
-    const auto plain = mayBePlain ? static_cast<std::size_t>(length) : 0;
+    const auto end = std::find_if_not(bytes.begin(), bytes.end(), IsPlain);
+    const auto plain = mayBePlain ? static_cast<std::size_t>(end - bytes.begin()) : 0;
     highSurrogate_ = 0;
     text_ = bytes.substr(0, plain);
     for (const char byte : bytes.substr(plain)) Byte(static_cast<std::uint8_t>(byte), encoding);

@@ -51,7 +51,7 @@ Token Tokens::Next()
         break;
     }
     const std::string_view rest = bytes_.substr(at_);
-    const auto length = std::ranges::find_if(rest, EndsText) - rest.begin();
+    const auto length = std::find_if(rest.begin(), rest.end(), EndsText) - rest.begin();
     return Take(TokenKind::Text, static_cast<std::size_t>(length));
 }
 
