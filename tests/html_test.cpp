@@ -79,6 +79,16 @@ TEST(Html, LinksLeadWhereTheRuleSaysAndToNoScript)
               std::string::npos);
 }
 
+TEST(Html, GreatTablesAreNotMerged)
+{
+    std::string rows;
+    for (int i = 0; i < 10'001; ++i)
+        rows += "\\trowd\\clmgf\\cellx900\\clmrg\\cellx1900 a\\cell b\\cell\\row";
+    const Markup markup = ReadMarkup(ToHtml(DocumentOf(rows), Trusting));
+    EXPECT_EQ(std::ranges::count(markup.tags, "td"), 20'002);
+    EXPECT_EQ(markup.fault, "");
+}
+
 TEST(Html, IsNoLongerThanAPageCanHold)
 {
     std::string body;
