@@ -101,6 +101,7 @@ private:
         decoder_.Reset();
         toSkip_ = 0;
         atGroupStart_ = false;
+        starred_ = false;
         if (unsavedDepth_ > 0) {
             --unsavedDepth_;
             return;
