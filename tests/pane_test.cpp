@@ -185,6 +185,25 @@ TEST(Pane, KeysSelectAndZoomKeepsTheSelection)
     EXPECT_EQ(pane.widget.toPlainText(), "one two three\nfour") << "read only";
 }
 
+TEST(Pane, ZoomKeepsThePlaceThatIsRead)
+{
+    Pane pane;
+    std::string lines;
+    for (int line = 0; line < 200; ++line) lines += "line " + std::to_string(line) + "\\par ";
+    pane.widget.ShowPane(PaneOf(lines));
+    const auto firstLine = [&] { return pane.widget.cursorForPosition({0, 2}).blockNumber(); };
+    pane.widget.verticalScrollBar()->setValue(1000);
+    const int before = firstLine();
+    EXPECT_GT(before, 30);
+    for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Plus, Qt::Key_0}) {
+        pane.Key(key, Qt::ControlModifier);
+        EXPECT_EQ(firstLine(), before);
+    }
+    pane.widget.verticalScrollBar()->setValue(0);
+    pane.Key(Qt::Key_Plus, Qt::ControlModifier);
+    EXPECT_EQ(pane.Top(), 0);
+}
+
 TEST(Pane, TablesStandInAGridAndBrokenPicturesInAFrame)
 {
     Pane pane;

@@ -67,7 +67,7 @@ void HelpPaneWidget::SetZoom(int percent)
 {
     percent = std::clamp(percent, kSmallest, kLargest);
     if (percent == zoomPercent_) return;
-    const int top = cursorForPosition({0, 0}).position();
+    const int top = cursorForPosition({0, 2}).position(); // its first pixel may be the line before
     const bool atTop = verticalScrollBar()->value() == 0;
     const int anchor = textCursor().anchor(), position = textCursor().position();
     zoomPercent_ = percent;
