@@ -112,7 +112,7 @@ TEST(DocumentLinks, LeadToADocumentOfTheFolderInTheirOwnPaneOrToTheWeb)
          {"../Energy.rtf", "%2e%2e%2fEnergy.rtf", "Energy.txt", "Energy.rtf/", ".rtf",
           "C:Energy.rtf", "..\\Energy.rtf", "#Energy", "file:///home/Energy.rtf",
           "mailto:a@example.org", "javascript:1", "https:", "https://", "https://:80/a",
-          "http://a b.example.org", "%", "%4"})
+          "https://u@:80/a", "http://a b.example.org", "%", "%4"})
         follow(WindowId::Main, none);
     EXPECT_EQ(main, "Help(31).rtf");
     EXPECT_EQ(desk.platform.Calls(), 0U);

@@ -18,6 +18,9 @@ TEST(NumberText, AFieldKeepsOneLine)
         EXPECT_EQ(OneLine("12 km" + std::string(ending)), "12 km");
     EXPECT_EQ(OneLine("\r\n12\n34"), "12");
     EXPECT_EQ(OneLine("\n\r"), "");
+    EXPECT_EQ(OneLine("\xc2\x85\xe2\x80\xa8"
+                      "12"),
+              "12");
     EXPECT_EQ(OneLine(std::string("1\0002", 3)), "1");
     for (const std::string_view whole :
          {"", " 12 ", "\t8\t9", "1\xc2\xa0\xc3\x85", "\xe2\x80\xa6\xe2", "\xc2"})

@@ -157,6 +157,10 @@ TEST_P(PaintedPicture, DiscsAndSectorsAreSmoothOnlyAtTheEdgeAndMeetWithoutASeam)
     surface.Cls();
     surface.Circle(0, 0, 90, kWhite);
     ExpectInk(disc, 2);
+    double area = 0; // the outline lies half a pixel outside
+    for (const Pixel each : PaintedAnew(surface, kPicDemo, GetParam()).pixels)
+        area += (each & 0xff) / 255.0 / (GetParam() * GetParam());
+    EXPECT_NEAR(area, kPi * 90.5 * 90.5, 20);
 }
 
 TEST_P(PaintedPicture, SectorsOfEverySpanCoverTheirShare)

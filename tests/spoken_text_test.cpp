@@ -110,6 +110,9 @@ TEST(SpokenText, EveryControlHasANameAndAPaneSaysItsTitle)
     for (const ButtonRow& row : ButtonTable()) expectNamed(Spoken(sim, row.id));
     for (const TopicRow& row : TopicTable()) expectNamed(Spoken(row.topic));
     expectNamed(SpokenTutorialPicture(sim));
+    expectNamed(Spoken(sim, lblReturnToTutorial));
+    EXPECT_EQ(Spoken(sim, lblOutput(0)).description,
+              sim.controls.labels[Index(lblOutput(0))].toolTip);
     player.Do(*ParseAction("menu mnAbout"));
     for (const AboutRow& row : AboutTable()) EXPECT_NE(Spoken(sim, row.control).name, "");
 

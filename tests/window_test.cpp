@@ -202,6 +202,7 @@ TEST_F(WindowTest, SpaceAndEnterPressAndTheFocusStaysAtItsPlace)
     QWidget& pause = Find("btnPause");
     pause.setFocus();
     const QImage usual = pause.grab().toImage();
+    EXPECT_EQ(usual.mirrored(true, true), usual) << "the two bars stand in the middle";
     QTest::keyPress(&pause, Qt::Key_Space);
     EXPECT_NE(pause.grab().toImage(), usual) << "it shows that it is held down";
     QTest::keyRelease(&pause, Qt::Key_Space);
@@ -530,7 +531,9 @@ TEST_F(WindowTest, OnlyAReturnFromTheProgramsOwnWindowsStartsOver)
         QApplication::sendEvent(&window, &leave);
         QApplication::sendEvent(&window, &come);
     };
+    shell->Window().move(33, 22);
     reactivate(shell->Window()); // from another program
+    EXPECT_EQ(shell->Window().pos(), QPoint(33, 22)) << "it stays where the user has moved it";
     EXPECT_TRUE(tutorialOpen());
 
     Trigger("mnAbout");
@@ -538,7 +541,7 @@ TEST_F(WindowTest, OnlyAReturnFromTheProgramsOwnWindowsStartsOver)
     ASSERT_TRUE(about && QTest::qWaitForWindowActive(about, 2000));
     about->move(-50, 40);
     reactivate(*about);
-    EXPECT_EQ(about->pos(), QPoint(-50, 40)) << "it stays where the user has moved it";
+    EXPECT_EQ(about->pos(), QPoint(-50, 40)) << "so does this one";
     EXPECT_TRUE(IsActive(Sim(), WindowId::About));
 
     Click("btnPause"); // the window first, then the click

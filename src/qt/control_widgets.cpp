@@ -152,7 +152,6 @@ private:
         auto* const button = new FaceButton(row, &panel_);
         widgets_.buttons[Index(row.id)] = button;
         Place(*button, row);
-        button->setVisible(row.visible);
         SetSpoken(*button, Spoken(dispatcher_.Sim(), row.id));
         QObject::connect(button, &QAbstractButton::clicked, &dispatcher_,
                          [dispatcher = &dispatcher_, id = row.id] {
