@@ -143,8 +143,9 @@ TEST(Pane, ALoadStartsAtTheTopAndTheSameOneTouchesNothing)
 TEST(Pane, FormattingArrivesAndGrowsWithTheZoom)
 {
     Pane pane;
-    pane.widget.ShowPane(PaneOf("{\\b b}{\\i i}{\\ul u}{\\strike s}{\\super 2}{\\cf1 r}n\\par "
-                                "\\pard\\qc\\li300\\sa150 centred\\par"));
+    pane.widget.ShowPane(
+        PaneOf("{\\b b}{\\i i}{\\ul u}{\\strike s}{\\super 2}{\\cf1 r}n{\\caps c}\\par "
+               "\\pard\\qc\\li300\\sa150 centred\\par"));
     EXPECT_EQ(pane.FormatAt(0).fontWeight(), QFont::Bold);
     EXPECT_TRUE(pane.FormatAt(1).fontItalic());
     EXPECT_TRUE(pane.FormatAt(2).fontUnderline());
@@ -152,6 +153,8 @@ TEST(Pane, FormattingArrivesAndGrowsWithTheZoom)
     EXPECT_EQ(pane.FormatAt(4).verticalAlignment(), QTextCharFormat::AlignSuperScript);
     EXPECT_EQ(pane.FormatAt(5).foreground().color(), QColor(200, 0, 0));
     EXPECT_FALSE(pane.FormatAt(6).hasProperty(QTextFormat::ForegroundBrush)) << "automatic";
+    EXPECT_EQ(pane.FormatAt(6).fontCapitalization(), QFont::MixedCase);
+    EXPECT_EQ(pane.FormatAt(7).fontCapitalization(), QFont::AllUppercase);
     const auto size = [&] { return pane.FormatAt(6).intProperty(QTextFormat::FontPixelSize); };
     EXPECT_EQ(size(), 13); // 10 points
     const QTextBlockFormat centred = pane.widget.document()->lastBlock().blockFormat();
