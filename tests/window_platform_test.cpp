@@ -1,6 +1,7 @@
-// What the window's program asks of the desktop: documents, programs, the time, and the one key of
-// a registry that there is not.
+// What the window's program asks of the desktop: documents, programs, the time, the shapes of
+// words, and the one key of a registry that there is not.
 #include "qt/qt_platform.h"
+#include "qt/text_masks.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -95,6 +96,18 @@ TEST_F(DesktopTest, AnswersTheKeyOfTheSystemInformationToolAlone)
     EXPECT_FALSE(desktop.QueryValue(*key, "PATH", 4)) << "longer than the buffer";
     EXPECT_FALSE(desktop.QueryValue(*key, "NAME", 1024));
     qputenv("PATH", path);
+}
+
+TEST(TextMasks, GrowWithTheScale)
+{
+    QtTextMasks texts;
+    const raster::Mask plain = texts.MaskOf("Celestial Equator", 1);
+    const int width = plain.width, height = plain.height;
+    for (const double scale : {1.25, 2.0, 3.0}) {
+        const raster::Mask larger = texts.MaskOf("Celestial Equator", scale);
+        EXPECT_NEAR(larger.width, scale * width, scale);
+        EXPECT_NEAR(larger.height, scale * height, scale);
+    }
 }
 
 } // namespace

@@ -317,6 +317,10 @@ TEST_F(WindowTest, ALongReadOutEndsBeforeItsNeighbourAndTheTipHasTheWhole)
         }
         const bool isLong = label.text().size() > 60;
         shortened += isLong;
+        constexpr int kDots = 12; // pixels that a shortened text may fall short
+        EXPECT_GE(label.width() + kDots,
+                  std::min(label.fontMetrics().horizontalAdvance(label.text()), *RoomOf(row.id)))
+            << row.name;
         EXPECT_EQ(Spoken(label).text(QAccessible::Name), label.text());
         QHelpEvent hover(QEvent::ToolTip, {2, 2}, label.mapToGlobal(QPoint(2, 2)));
         QApplication::sendEvent(&label, &hover);
