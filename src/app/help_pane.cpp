@@ -1,6 +1,7 @@
 #include "app/help_pane.h"
 
 #include "app/simulation.h"
+#include "rich_text/ascii.h"
 #include "rich_text/reader.h"
 
 #include <algorithm>
@@ -9,17 +10,6 @@
 namespace selvane {
 
 namespace {
-
-char Lower(char letter)
-{
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-// `lower` has no capital letters. Locales have no say.
-bool SameButForCase(std::string_view text, std::string_view lower)
-{
-    return std::ranges::equal(text, lower, {}, Lower);
-}
 
 // Each "%2E" becomes its byte; a sign of percent without two digits stays.
 std::string PercentDecoded(std::string_view text)
@@ -45,8 +35,8 @@ bool IsWebAddress(std::string_view link)
 {
     const std::size_t end = link.find("://");
     if (end == std::string_view::npos) return false;
-    const std::string_view scheme = link.substr(0, end);
-    if (!SameButForCase(scheme, "http") && !SameButForCase(scheme, "https")) return false;
+    const std::string scheme = rich_text::Capitals(link.substr(0, end));
+    if (scheme != "HTTP" && scheme != "HTTPS") return false;
     std::string_view host = link.substr(end + 3);
     host = host.substr(0, host.find_first_of("/?#"));
     if (const auto user = host.rfind('@'); user != std::string_view::npos)
@@ -104,10 +94,10 @@ LinkTarget LinkTargetOf(std::string_view link)
     if (IsWebAddress(link)) return {LinkTarget::Kind::Web, std::string(link)};
     std::string name = PercentDecoded(link.substr(0, link.find('#')));
     if (name.starts_with("./")) name.erase(0, 2);
-    constexpr std::string_view kEnding = ".rtf";
-    const bool isDocument =
-        name.size() > kEnding.size() && name.find_first_of("/\\:") == std::string::npos &&
-        SameButForCase(std::string_view(name).substr(name.size() - kEnding.size()), kEnding);
+    constexpr std::string_view kEnding = ".RTF";
+    const bool isDocument = name.size() > kEnding.size() &&
+                            name.find_first_of("/\\:") == std::string::npos &&
+                            rich_text::Capitals(name).ends_with(kEnding);
     if (!isDocument) return {};
     return {LinkTarget::Kind::Document, std::move(name)};
 }

@@ -44,11 +44,13 @@ struct OrbitSample
     bool inShadow;
 };
 
-// A sample a degree; the last is the first once more.
+// A point a degree; the last is the first once more.
+inline constexpr int kRingPoints = 361;
+
 struct OrbitPath
 {
     OrbitPlace place{};
-    std::array<OrbitSample, 361> samples{};
+    std::array<OrbitSample, kRingPoints> samples{};
 };
 
 } // namespace selvane

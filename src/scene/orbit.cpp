@@ -1,5 +1,6 @@
 #include "scene/orbit.h"
 
+#include "app/control_table.h"
 #include "app/simulation.h"
 #include "scene/orbit_elements.h"
 #include "scene/orbit_values.h"
@@ -12,18 +13,6 @@
 namespace selvane {
 
 namespace {
-
-struct PairFields
-{
-    FieldId first, second;
-};
-
-PairFields FieldsOf(ShapePair pair)
-{
-    if (pair == ShapePair::Axis) return {txtSMajAxis, txtSMinAxis};
-    if (pair == ShapePair::Apsis) return {txtPeri, txtApo};
-    return {txtPeriE, txtE};
-}
 
 OrbitReading ReadShape(const Simulation& sim)
 {
@@ -43,11 +32,9 @@ OrbitReading ReadShape(const Simulation& sim)
 
 void MarkFields(Simulation& sim, std::string_view fault)
 {
-    for (const ShapePair pair : {ShapePair::Axis, ShapePair::Apsis, ShapePair::E}) {
-        const std::string_view why = pair == sim.state.ShapeInput ? fault : std::string_view();
-        SetFault(sim, FieldsOf(pair).first, why);
-        SetFault(sim, FieldsOf(pair).second, why);
-    }
+    for (const ShapePairRow& row : ShapePairTable())
+        for (const FieldId field : row.fields)
+            SetFault(sim, field, row.pair == sim.state.ShapeInput ? fault : std::string_view());
 }
 
 void DeriveElements(Simulation& sim)

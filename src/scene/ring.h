@@ -1,5 +1,4 @@
-// A ring: a circle of 361 projected points, a point a degree, the last one the first once more, of
-// which only the near half is drawn.
+// A ring: a circle of kRingPoints projected points, of which only the near half is drawn.
 #pragma once
 
 #include "scene/projection.h"
@@ -9,8 +8,6 @@
 namespace selvane {
 
 struct Picture;
-
-inline constexpr int kRingPoints = 361; // OrbitPath has as many
 
 struct InPlaneAngle
 {
